@@ -1,0 +1,14 @@
+// Twips to pixels: constants stay in twips, 1440 to the inch; the screen has 96 pixels to the inch.
+#pragma once
+
+inline constexpr int kTwipsPerPixel = 15;
+
+// A length in whole pixels.
+constexpr int toPixels(int twips) {
+    return twips / kTwipsPerPixel;
+}
+
+// A length in twips.
+constexpr double toTwips(double pixels) {
+    return pixels * kTwipsPerPixel;
+}

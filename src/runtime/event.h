@@ -1,0 +1,62 @@
+// The event boundary and the error trap: where a run-time error stops.
+//
+// Every event routine is connected by onEvent. A run-time error that no trap has ended reaches the
+// boundary there, which shows the run-time's box and ends the process; no exception crosses the
+// frames of Qt. Any other exception is a defect and terminates the program.
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <type_traits>
+#include <utility>
+
+#include "runtime/errors.h"
+
+namespace event_detail {
+
+// The run-time error that is being handled, whichever room raised it: an overflow or a range error
+// of the arithmetic becomes the error of that number. Anything else is thrown on.
+RuntimeError currentError();
+
+void endWith(const RuntimeError& error) noexcept;
+void report(QObject* owner, const RuntimeError& error);
+
+}  // namespace event_detail
+
+// Runs an event routine inside the boundary. Use it only where no signal leads to the routine.
+template <class Routine>
+void runEvent(Routine&& routine) noexcept {
+    try {
+        std::invoke(std::forward<Routine>(routine));
+    } catch (...) {
+        event_detail::endWith(event_detail::currentError());
+    }
+}
+
+// Connects a signal to an event routine of `receiver`, a member function with the signal's
+// arguments or with none. The connection ends with either of the two objects.
+template <class Sender, class Signal, class Receiver, class Routine>
+void onEvent(Sender* sender, Signal signal, Receiver* receiver, Routine routine) {
+    QObject::connect(sender, signal, receiver, [receiver, routine](const auto&... arguments) {
+        runEvent([&] {
+            if constexpr (std::is_invocable_v<Routine, Receiver*, decltype(arguments)...>)
+                std::invoke(routine, receiver, arguments...);
+            else
+                std::invoke(routine, receiver);
+        });
+    });
+}
+
+// The one error trap: runs the steps, and ends a run-time error in a message box over `owner` with
+// the error's description and the request to report it. What had been shown by then stays.
+// Returns whether an error was trapped.
+template <class Steps>
+bool trapped(QObject* owner, Steps&& steps) {
+    try {
+        std::invoke(std::forward<Steps>(steps));
+        return false;
+    } catch (...) {
+        event_detail::report(owner, event_detail::currentError());
+        return true;
+    }
+}

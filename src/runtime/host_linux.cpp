@@ -1,0 +1,36 @@
+// What the machine's host does in its own way on Linux.
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QDirIterator>
+
+#include "runtime/machine_host.h"
+
+namespace {
+
+// The executable file of a process, told by the device and the number of the file and not by its
+// path; false if the process is gone or not ours to look at.
+bool executableOf(const QByteArray& process, struct stat& file) {
+    return stat(("/proc/" + process + "/exe").constData(), &file) == 0;
+}
+
+}  // namespace
+
+bool MachineHost::anotherInstanceRuns() const {
+    struct stat own {};
+    if (!executableOf("self", own))
+        return false;
+    const QByteArray ownNumber = QByteArray::number(getpid());
+    QDirIterator processes(QStringLiteral("/proc"), QDir::Dirs | QDir::NoDotAndDotDot);
+    while (processes.hasNext()) {
+        processes.next();
+        const QByteArray number = processes.fileName().toLatin1();
+        if (number.isEmpty() || number[0] < '0' || number[0] > '9' || number == ownNumber)
+            continue;
+        struct stat other {};
+        if (executableOf(number, other) && other.st_dev == own.st_dev &&
+            other.st_ino == own.st_ino)
+            return true;
+    }
+    return false;
+}

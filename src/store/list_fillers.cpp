@@ -1,0 +1,1 @@
+#include "store/list_fillers.h"

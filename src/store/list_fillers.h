@@ -1,0 +1,16 @@
+// What fills the lists of people and of categories. Each reads the person database afresh.
+#pragma once
+
+#include "cycles/integers.h"
+#include "store/item_list.h"
+
+// Fills a list with all people: the display text, and the NameID as item data.
+// Raises 3021 if there is nobody; the list is empty then.
+void fillPeople(ItemList& list);
+
+// The same with the people of one category, who may be nobody.
+void fillPeopleOfCategory(ItemList& list, Long catId);
+
+// All categories in the order of the store, behind the pseudo-entry "*" with item data 0, which
+// stands for everybody. Raises 3021 if there is none.
+std::vector<ListEntry> readCategoryEntries();

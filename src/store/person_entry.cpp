@@ -1,0 +1,1 @@
+#include "store/person_entry.h"

@@ -1,0 +1,62 @@
+// The host that tests install: a fixed day, no desktop, and every box recorded and answered.
+#pragma once
+
+#include <QString>
+#include <optional>
+#include <vector>
+
+#include "cycles/calendar.h"
+#include "runtime/host.h"
+
+// It is 14 March 2000, 14:05, in English, with dates as dd/MM/yyyy. A box that the test did not
+// expect fails the test, and so does an expected one that never comes. An end of the process is
+// recorded, and what the program would do after it goes unnoticed, as there is no program then.
+class RecordingHost final : public Host {
+  public:
+    RecordingHost();
+    ~RecordingHost() override;
+
+    // The next box must have this text; it gets this answer.
+    void expectMessage(const QString& text, Answer answer = Answer::Ok);
+
+    // The boxes shown so far.
+    const std::vector<Message>& messages() const { return messages_; }
+
+    // The exit code, once the process has been ended.
+    std::optional<int> exitCode() const { return exitCode_; }
+
+    // Ends the record of an end of the process that the test has looked at.
+    void forgetExit() { exitCode_.reset(); }
+
+    int yields() const { return yields_; }
+
+    void setNow(Date now) { now_ = now; }
+    void setProgramDirectory(const QString& directory) { programDirectory_ = directory; }
+    void setAnotherInstanceRuns(bool runs) { anotherInstanceRuns_ = runs; }
+
+    Date now() const override { return now_; }
+    QLocale locale() const override;
+    QString shortDate(Date date) const override;
+    QString shortTime(Date date) const override;
+    QString programDirectory() const override { return programDirectory_; }
+    bool anotherInstanceRuns() const override { return anotherInstanceRuns_; }
+    Answer showMessage(const Message& message) override;
+    void yield() override { ++yields_; }
+    void paintWindows() override {}
+    void endProcess(int exitCode) override;
+
+  private:
+    struct Expected {
+        QString text;
+        Answer answer;
+    };
+
+    HostInForce inForce_{*this};
+    Date now_;
+    QString programDirectory_;
+    bool anotherInstanceRuns_ = false;
+    std::vector<Expected> expected_;  // those still to come, in order
+    std::vector<Message> messages_;
+    std::optional<int> exitCode_;
+    int yields_ = 0;
+};

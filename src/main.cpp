@@ -1,1 +1,23 @@
-int main() {}
+// The program's entry.
+#include <QApplication>
+#include <QIcon>
+
+#include "controls/desktop_host.h"
+#include "controls/form.h"
+#include "runtime/event.h"
+#include "shell/start_up.h"
+
+namespace {
+
+int argumentCount = 1;  // the program has no command line: Qt sees the program's name alone
+
+}  // namespace
+
+int main(int, char** arguments) {
+    QApplication application(argumentCount, arguments);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/art/ondara.png")));
+    DesktopHost desktop;
+    const HostInForce inForce(desktop);
+    runEvent(modCycles::Main);
+    return Form::forms().empty() ? 0 : QApplication::exec();
+}

@@ -1,1 +1,97 @@
+// The life of a form, and its preview of keys.
+#include "controls/form.h"
 
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <algorithm>
+
+#include "runtime/event.h"
+#include "runtime/host.h"
+
+namespace {
+
+std::vector<Form*> loadedForms;
+
+// A button that has the focus is pressed by Enter, as by the space bar.
+void letEnterPressFocusedButtons(const QWidget& form) {
+    for (QPushButton* button : form.findChildren<QPushButton*>())
+        button->setAutoDefault(true);
+}
+
+}  // namespace
+
+Form::Form(QWidget* owner) : QWidget(owner, owner ? Qt::Dialog : Qt::Window) {}
+
+Form::~Form() {
+    std::erase(loadedForms, this);
+}
+
+void Form::Load() {
+    if (loaded_)
+        return;
+    loaded_ = true;
+    loadedForms.push_back(this);
+    letEnterPressFocusedButtons(*this);
+    qApp->installEventFilter(this);
+    Form_Load();
+}
+
+void Form::Show() {
+    Load();
+    show();
+}
+
+void Form::ShowModal() {
+    setWindowModality(Qt::ApplicationModal);
+    Show();
+    QEventLoop untilUnloaded;
+    connect(this, &Form::unloaded, &untilUnloaded, &QEventLoop::quit);
+    if (loaded_)
+        untilUnloaded.exec();
+}
+
+void Form::Refresh() {
+    repaint();
+    host().paintWindows();
+}
+
+void Form::Unload() {
+    if (!loaded_)
+        return;
+    loaded_ = false;
+    Form_Unload();
+    qApp->removeEventFilter(this);
+    std::erase(loadedForms, this);
+    close();
+    Q_EMIT unloaded();
+}
+
+const std::vector<Form*>& Form::forms() {
+    return loadedForms;
+}
+
+// A key that no control wants is offered to its parents one after the other; only the first
+// receiver is the one that the user meant.
+bool Form::seesFirst(QObject* receiver) const {
+    const QWidget* meant = focusWidget() ? focusWidget() : this;
+    return receiver == meant;
+}
+
+bool Form::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || !seesFirst(watched))
+        return QWidget::eventFilter(watched, event);
+    auto& key = static_cast<QKeyEvent&>(*event);
+    key.ignore();
+    runEvent([&] { Form_KeyDown(key); });
+    const bool wasUsed = key.isAccepted();
+    key.accept();
+    return wasUsed;
+}
+
+void Form::closeEvent(QCloseEvent* event) {
+    runEvent([this] { Unload(); });
+    event->accept();
+}

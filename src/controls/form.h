@@ -6,12 +6,12 @@
 
 class QKeyEvent;
 
-// A form is loaded before it is shown, and unloaded when it closes, however it closes. Its three
-// event routines run inside the event boundary. Keys reach Form_KeyDown before the control that has
-// the focus. Esc closes nothing by itself, and Enter presses nothing but what has the focus.
+// A form is loaded before it is shown and unloaded when it closes, however it closes. Keys reach
+// Form_KeyDown before the control that has the focus. Esc closes nothing by itself, and Enter
+// presses nothing but a button that has the focus.
 //
 // Whoever makes a form owns it: a command makes one on the stack, shows it modally, and it is freed
-// on return.
+// on return. A run-time error in Form_Load or Form_Unload goes to whoever loads or unloads.
 class Form : public QWidget {
     Q_OBJECT
 
@@ -20,20 +20,20 @@ class Form : public QWidget {
     ~Form() override;
 
     // Runs Form_Load, unless the form is loaded already. The window stays hidden.
-    void load();
+    void Load();
 
     // Loads and shows the form; the caller goes on at once.
-    void show();
+    void Show();
 
     // Loads the form, shows it over its owner, whose events it holds back, and returns when it has
     // been unloaded.
-    void showModal();
+    void ShowModal();
 
-    // Paints the form now, before what comes next.
-    void refresh();
+    // Paints the form before what comes next.
+    void Refresh();
 
-    // Runs Form_Unload, once, and closes the window.
-    void unload();
+    // Runs Form_Unload and closes the window, unless the form is not loaded.
+    void Unload();
 
     bool isLoaded() const { return loaded_; }
 
@@ -47,12 +47,14 @@ class Form : public QWidget {
     virtual void Form_Load() {}
     virtual void Form_Unload() {}
 
-    // A key pressed anywhere in the form; the key goes on to the control unless it is accepted.
-    virtual void Form_KeyDown(QKeyEvent& key);
+    // A key pressed anywhere in the form. It goes on to the control unless it is accepted here.
+    virtual void Form_KeyDown(QKeyEvent&) {}
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    bool seesFirst(QObject* receiver) const;
+
     bool loaded_ = false;
 };

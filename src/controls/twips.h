@@ -3,9 +3,9 @@
 
 inline constexpr int kTwipsPerPixel = 15;
 
-// A length in whole pixels.
+// A length, not negative, in the nearest whole pixels.
 constexpr int toPixels(int twips) {
-    return twips / kTwipsPerPixel;
+    return (twips + kTwipsPerPixel / 2) / kTwipsPerPixel;
 }
 
 // A length in twips.

@@ -41,8 +41,7 @@ constexpr YearMonthDay fromDayNumber(Int dayNumber) {
     const Int days = dayNumber + kDayZero;
     const Int era = floorDivide(days, kDaysPerEra);
     const Int dayOfEra = days - era * kDaysPerEra;
-    const Int yearOfEra =
-        (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;
+    const Int yearOfEra = (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;
     const Int dayOfYear = dayOfEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);
     const Int monthFromMarch = (5 * dayOfYear + 2) / 153;
     const Int month = monthFromMarch < 10 ? monthFromMarch + 3 : monthFromMarch - 9;
@@ -90,5 +89,9 @@ constexpr Integer DayOfWeek(Date date) {
     const civil::Int days = date.dayNumber() - kMondayBeforeDayZero;
     return static_cast<Integer>(days - civil::floorDivide(days, 7) * 7 + 1);
 }
+
+// What the program's calendars and date inputs offer.
+inline constexpr Date kEarliestCalendarDate = DateSerial(1753, 1, 1);
+inline constexpr Date kLatestCalendarDate = DateSerial(9999, 12, 31);
 
 }  // namespace modCycles

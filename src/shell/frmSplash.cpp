@@ -1,0 +1,24 @@
+// The splash window.
+#include "shell/frmSplash.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPixmap>
+#include <QVBoxLayout>
+
+frmSplash::frmSplash() {
+    setObjectName(QStringLiteral("frmSplash"));
+    setWindowFlags(Qt::SplashScreen);
+    setAccessibleName(tr("Ondara is starting"));
+    auto* picture = new QLabel(this);
+    picture->setPixmap(QPixmap(QStringLiteral(":/art/splash.png")));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(picture);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void frmSplash::Form_KeyDown(QKeyEvent& key) {
+    key.accept();
+    Unload();
+}

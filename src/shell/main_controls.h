@@ -1,0 +1,27 @@
+// The main window's controls that are the application's shared state.
+#pragma once
+
+class Chart;
+class ComboBox;
+class ListBox;
+class MonthView;
+class QLabel;
+class StatusBar;
+
+// Every form reads the chosen person and date from here, and the routines of the main lists and the
+// main chart work on it. The main window puts its controls in force while it lives.
+struct MainControls {
+    ListBox* lstMain;
+    ComboBox* cbCategory;
+    ListBox* listCats;
+    MonthView* dtpSelDate;
+    QLabel* lblTitle;
+    Chart* chtMain;
+    StatusBar* sbMain;
+};
+
+// The controls of the main window there is. There must be one.
+const MainControls& mainControls();
+
+// For the main window alone: the controls in force, or nullptr when it goes.
+void setMainControls(const MainControls* controls);

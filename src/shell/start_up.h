@@ -1,0 +1,10 @@
+// The start of the program.
+#pragma once
+
+namespace modCycles {
+
+// Shows the main window behind a splash, unless another instance of the program runs: then it says
+// so, and loads nothing.
+void Main();
+
+}  // namespace modCycles

@@ -1,0 +1,43 @@
+// The wait window.
+#include "shell/frmWait.h"
+
+#include <gtest/gtest.h>
+
+#include <QLabel>
+
+#include "support/find_control.h"
+#include "support/recording_host.h"
+
+namespace {
+
+class WaitWindow : public testing::Test {
+  protected:
+    ~WaitWindow() override { unloadWaitWindow(); }
+
+    static Form* shown() { return Form::forms().empty() ? nullptr : Form::forms().front(); }
+
+    RecordingHost host_;
+};
+
+TEST_F(WaitWindow, AsksForPatience) {
+    showWaitWindow();
+    ASSERT_NE(shown(), nullptr);
+    EXPECT_TRUE(shown()->isVisible());
+    EXPECT_EQ(findControl<QLabel>(*shown(), "lblWait").text(), QStringLiteral("Please wait ....."));
+}
+
+TEST_F(WaitWindow, GoesWhenItIsUnloaded) {
+    showWaitWindow();
+    unloadWaitWindow();
+    EXPECT_EQ(shown(), nullptr);
+}
+
+TEST_F(WaitWindow, GoesAtAClickAndMayBeUnloadedAfterwards) {
+    showWaitWindow();
+    click(*shown());
+    EXPECT_EQ(shown(), nullptr);
+    unloadWaitWindow();
+    EXPECT_EQ(shown(), nullptr);
+}
+
+}  // namespace

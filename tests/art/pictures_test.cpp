@@ -20,7 +20,7 @@ QStringList names() {
     QStringList names;
     const QStringList files = QDir(QStringLiteral(":/art")).entryList();
     for (const QString& file : files)
-        if (!file.contains(u'@') && !file.startsWith(QStringLiteral("ondara_")))
+        if (!file.contains(u'@') && !file.startsWith(QStringLiteral("ondara-")))
             names << file.chopped(4);
     return names;
 }
@@ -28,8 +28,8 @@ QStringList names() {
 // Those of them that are icons, of the toolbar and of buttons.
 QStringList iconNames() {
     QStringList icons = names();
-    icons.removeOne(QStringLiteral("splash"));
-    icons.removeOne(QStringLiteral("wait"));
+    for (const char* other : {"ondara", "splash", "wait"})
+        icons.removeOne(QLatin1String(other));
     return icons;
 }
 
@@ -89,11 +89,11 @@ TEST(Icons, AreLegibleOnLightAndOnDark) {
 
 TEST(ApplicationIcon, StandsInTheSizesThatDesktopsAskFor) {
     for (const int pixels : {16, 22, 24, 32, 48, 64, 128, 256})
-        EXPECT_EQ(picture(QStringLiteral("ondara_%1").arg(pixels)).size(), QSize(pixels, pixels));
+        EXPECT_EQ(picture(QStringLiteral("ondara-%1").arg(pixels)).size(), QSize(pixels, pixels));
 }
 
 TEST(ApplicationIcon, HasAShapeOfItsOwn) {
-    const QImage icon = picture(QStringLiteral("ondara_64"));
+    const QImage icon = picture(QStringLiteral("ondara-64"));
     EXPECT_EQ(qAlpha(icon.pixel(0, 0)), 0);
     EXPECT_EQ(qAlpha(icon.pixel(32, 32)), 255);
 }

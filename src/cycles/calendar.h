@@ -1,6 +1,9 @@
 // The calendar: dates made of year, month and day, and taken apart again.
 #pragma once
 
+#include <cstdint>
+#include <stdexcept>
+
 #include "cycles/date.h"
 
 // The arithmetic behind it. Years are counted from 1 March, so that the leap day is the last of its
@@ -41,8 +44,7 @@ constexpr YearMonthDay fromDayNumber(Int dayNumber) {
     const Int days = dayNumber + kDayZero;
     const Int era = floorDivide(days, kDaysPerEra);
     const Int dayOfEra = days - era * kDaysPerEra;
-    const Int yearOfEra =
-        (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;
+    const Int yearOfEra = (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;
     const Int dayOfYear = dayOfEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);
     const Int monthFromMarch = (5 * dayOfYear + 2) / 153;
     const Int month = monthFromMarch < 10 ? monthFromMarch + 3 : monthFromMarch - 9;

@@ -7,9 +7,9 @@
 #include "cycles/date.h"
 #include "runtime/message.h"
 
-// Everything that Ondara asks of the machine it runs on: the clock, the locale, the program's place,
-// the process, and the desktop's boxes. Nothing else asks for them, so a test that installs a host
-// of its own decides what day it is, answers every box and sees every end of the process.
+// Everything that Ondara asks of the machine it runs on: the clock, the locale, the program's
+// place, the process, and the desktop's boxes. Nothing else asks for them, so a test that installs
+// a host of its own decides what day it is, answers every box and sees every end of the process.
 class Host {
   public:
     virtual ~Host() = default;

@@ -28,8 +28,7 @@ bool MachineHost::anotherInstanceRuns() const {
         if (number.isEmpty() || number[0] < '0' || number[0] > '9' || number == ownNumber)
             continue;
         struct stat other {};
-        if (executableOf(number, other) && other.st_dev == own.st_dev &&
-            other.st_ino == own.st_ino)
+        if (executableOf(number, other) && other.st_dev == own.st_dev && other.st_ino == own.st_ino)
             return true;
     }
     return false;

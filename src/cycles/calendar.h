@@ -1,6 +1,9 @@
 // The calendar: dates made of year, month and day, and taken apart again.
 #pragma once
 
+#include <cstdint>
+#include <stdexcept>
+
 #include "cycles/date.h"
 
 // The arithmetic behind it. Years are counted from 1 March, so that the leap day is the last of its

@@ -14,7 +14,7 @@ inline constexpr Long kIntellectualLength = 33;  // days
 inline constexpr Long kEmotionalLength = 28;     // days
 
 // The angle, in radians, by which a cycle of `length` days moves in one day. The two divisions come
-// first: any other order differs in the last bit.
+// first: another order can differ in the last bit.
 constexpr double cycleFactor(Long length) {
     return (std::numbers::pi / 180) * (360 / static_cast<double>(length));
 }
@@ -34,9 +34,8 @@ inline constexpr Integer kPhysicalIndex = 1;
 inline constexpr Integer kIntellectualIndex = 2;
 
 // The value of a cycle, -100.0 to 100.0, unrounded, `offset` days after the day count `days`. The
-// offset is added after the remainder is taken, so a whole chart takes one day count.
-// A key other than the three, letter for letter, gives 0.0. Raises std::overflow_error if the sum
-// leaves 32 bits.
+// offset is added after the remainder is taken and not reduced again, so a whole chart takes one
+// day count. A key other than the three, letter for letter, gives 0.0.
 double CalcCycle(Long days, Integer offset, std::string_view key);
 
 // The three values of a day.

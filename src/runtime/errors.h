@@ -27,7 +27,7 @@ enum class ErrorNumber : int {
     ItemNotFound = 3265,
 };
 
-// The classical text of an error, without a final full stop unless the text is of two sentences.
+// The classical text of an error; those of the record sets end with a full stop, the others do not.
 QString errorText(ErrorNumber number);
 
 // An error of the world: a file that is gone, a value that is missing, a number out of range. It

@@ -29,8 +29,11 @@ void endWith(const RuntimeError& error) noexcept {
 }
 
 void report(QObject* owner, const RuntimeError& error) {
+    QString description = error.description;
+    if (description.endsWith(u'.'))
+        description.chop(1);
     host().showMessage(
-        {.text = error.description + QStringLiteral(". Please report this error to the author."),
+        {.text = description + QStringLiteral(". Please report this error to the author."),
          .owner = owner});
 }
 

@@ -7,7 +7,6 @@
 
 #include <QObject>
 #include <functional>
-#include <type_traits>
 #include <utility>
 
 #include "runtime/errors.h"
@@ -33,23 +32,19 @@ void runEvent(Routine&& routine) noexcept {
     }
 }
 
-// Connects a signal to an event routine of `receiver`, a member function with the signal's
-// arguments or with none. The connection ends with either of the two objects.
-template <class Sender, class Signal, class Receiver, class Routine>
-void onEvent(Sender* sender, Signal signal, Receiver* receiver, Routine routine) {
-    QObject::connect(sender, signal, receiver, [receiver, routine](const auto&... arguments) {
-        runEvent([&] {
-            if constexpr (std::is_invocable_v<Routine, Receiver*, decltype(arguments)...>)
-                std::invoke(routine, receiver, arguments...);
-            else
-                std::invoke(routine, receiver);
-        });
+// Connects a signal to an event routine of `receiver`, a member function that takes the signal's
+// arguments, the first of them, or none. The connection ends with either of the two objects.
+template <class Sender, class Signal, class Receiver, class Class, class... Arguments>
+void onEvent(Sender* sender, Signal signal, Receiver* receiver,
+             void (Class::*routine)(Arguments...)) {
+    QObject::connect(sender, signal, receiver, [receiver, routine](Arguments... arguments) {
+        runEvent([&] { (receiver->*routine)(arguments...); });
     });
 }
 
 // The one error trap: runs the steps, and ends a run-time error in a message box over `owner` with
-// the error's description and the request to report it. What had been shown by then stays.
-// Returns whether an error was trapped.
+// the error's description, without a full stop of its own, and the request to report it. What had
+// been shown by then stays. Returns whether an error was trapped.
 template <class Steps>
 bool trapped(QObject* owner, Steps&& steps) {
     try {

@@ -1,6 +1,7 @@
 // The conversions of qt_dates.h.
 #include "runtime/qt_dates.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -16,7 +17,9 @@ QDate toQDate(Date date) {
 
 QTime toQTime(Date date) {
     const double fraction = std::abs(date.serial() - date.dayNumber());
-    return QTime::fromMSecsSinceStartOfDay(static_cast<int>(fraction * kMillisecondsPerDay));
+    const double milliseconds = std::round(fraction * kMillisecondsPerDay);
+    return QTime::fromMSecsSinceStartOfDay(
+        static_cast<int>(std::min(milliseconds, kMillisecondsPerDay - 1)));
 }
 
 Date fromQDate(QDate date) {

@@ -2,6 +2,7 @@
 #include "runtime/text.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "runtime/errors.h"
 
@@ -54,7 +55,7 @@ QString Mid(const QString& text, Long start) {
 }
 
 Long InStr(const QString& text, const QString& wanted) {
-    return static_cast<Long>(text.indexOf(wanted)) + 1;
+    return text.isEmpty() ? 0 : static_cast<Long>(text.indexOf(wanted)) + 1;
 }
 
 QString LCase(const QString& text) {
@@ -77,9 +78,8 @@ double Val(const QString& text) {
     end += exponentLength(packed, end);
     packed.truncate(end);
     packed.replace(QChar(u'd'), QChar(u'e'), Qt::CaseInsensitive);
-    bool inRange = false;
-    const double value = packed.toDouble(&inRange);
-    if (!inRange)
+    const double value = packed.toDouble();
+    if (std::isinf(value))
         throw RuntimeError(ErrorNumber::Overflow);
     return value;
 }

@@ -14,7 +14,8 @@ QString Left(const QString& text, Long length);
 // The text from position `start`; "" beyond its end. Raises 5 for a position below 1.
 QString Mid(const QString& text, Long start);
 
-// The position of the first occurrence, letter for letter; 0 if there is none.
+// The position of the first occurrence, letter for letter; 0 if there is none, or nothing to
+// search. An empty text is found at 1.
 Long InStr(const QString& text, const QString& wanted);
 
 // The text in lower case.

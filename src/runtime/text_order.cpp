@@ -24,14 +24,23 @@ bool isMark(QChar::Category category) {
            category == QChar::Mark_Enclosing;
 }
 
-QString withoutMarks(const QString& decomposed) {
+QString decomposed(const QString& text) {
+    return text.normalized(QString::NormalizationForm_D);
+}
+
+QString withoutMarks(const QString& decomposedText) {
     QString text;
-    text.reserve(decomposed.size());
-    for (const char32_t codePoint : decomposed.toUcs4()) {
+    text.reserve(decomposedText.size());
+    for (const char32_t codePoint : decomposedText.toUcs4()) {
         if (!isMark(QChar::category(codePoint)))
             text += QChar::fromUcs4(codePoint);
     }
     return text;
+}
+
+// A letter whose capital is written as several letters becomes these: ß becomes ss.
+QString spelledOut(const QString& caseFolded) {
+    return caseFolded.toUpper().toCaseFolded();
 }
 
 std::weak_ordering orderOf(int comparison) {
@@ -49,9 +58,8 @@ TextKey::TextKey(const QString& text) {
         folded_ = text.toLatin1().toLower();
         return;
     }
-    const QString caseFolded =
-        text.toCaseFolded().normalized(QString::NormalizationForm_D).toCaseFolded();
-    folded_ = withoutMarks(caseFolded).toUtf8();
+    const QString caseFolded = decomposed(decomposed(text).toCaseFolded());
+    folded_ = spelledOut(withoutMarks(caseFolded)).toUtf8();
     const QByteArray accented = caseFolded.toUtf8();
     if (accented != folded_)
         accented_ = accented;

@@ -1,0 +1,14 @@
+// The machine's host without a desktop.
+#pragma once
+
+#include <cstdlib>
+
+#include "runtime/machine_host.h"
+
+// What only a desktop can do is never asked of it.
+class BareMachineHost : public MachineHost {
+  public:
+    Answer showMessage(const Message&) override { std::abort(); }
+    void yield() override { std::abort(); }
+    void paintWindows() override { std::abort(); }
+};

@@ -1,0 +1,87 @@
+// Numbers rounded and as text.
+#include "runtime/numbers.h"
+
+#include <gtest/gtest.h>
+
+#include <rapidcheck/gtest.h>
+#include <QLocale>
+#include <cmath>
+#include <limits>
+
+#include "runtime/errors.h"
+
+namespace {
+
+// Makes numbers German for as long as it lives: 10.007 for ten thousand and seven.
+class GermanDefault {
+  public:
+    GermanDefault() { QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); }
+    ~GermanDefault() { QLocale::setDefault(before_); }
+    Q_DISABLE_COPY_MOVE(GermanDefault)
+
+  private:
+    QLocale before_;
+};
+
+int errorNumberOf(double value) {
+    try {
+        Round(value);
+        return 0;
+    } catch (const RuntimeError& error) {
+        return error.number;
+    }
+}
+
+}  // namespace
+
+TEST(Round, TakesTheEvenNeighbourOfAHalf) {
+    EXPECT_EQ(Round(2.5), 2);
+    EXPECT_EQ(Round(3.5), 4);
+    EXPECT_EQ(Round(0.5), 0);
+    EXPECT_EQ(Round(-0.5), 0);
+    EXPECT_EQ(Round(1.5), 2);
+    EXPECT_EQ(Round(-1.5), -2);
+    EXPECT_EQ(Round(-2.5), -2);
+    EXPECT_EQ(Round(99.5), 100);
+}
+
+TEST(Round, TakesTheNearerNeighbourNextToAHalf) {
+    EXPECT_EQ(Round(std::nextafter(2.5, 3)), 3);
+    EXPECT_EQ(Round(std::nextafter(3.5, 3)), 3);
+    EXPECT_EQ(Round(std::nextafter(-0.5, -1)), -1);
+}
+
+TEST(Round, RaisesAnOverflowOutsideOf32Bits) {
+    EXPECT_EQ(Round(2147483647.0), 2147483647);
+    EXPECT_EQ(Round(-2147483648.0), std::numeric_limits<Long>::min());
+    EXPECT_EQ(Round(2147483647.4), 2147483647);
+    EXPECT_EQ(errorNumberOf(2147483647.5), 6);
+    EXPECT_EQ(errorNumberOf(-2147483649.0), 6);
+    EXPECT_EQ(errorNumberOf(std::numeric_limits<double>::infinity()), 6);
+    EXPECT_EQ(errorNumberOf(std::numeric_limits<double>::quiet_NaN()), 6);
+}
+
+RC_GTEST_PROP(Round, IsNeverMoreThanAHalfAway, (Long thousandths)) {
+    const double value = thousandths / 1000.0;
+    RC_ASSERT(std::abs(Round(value) - value) <= 0.5);
+}
+
+TEST(NumberText, HasNoSeparatorsWhateverTheLocale) {
+    const GermanDefault german;
+    ASSERT_EQ(QLocale().toString(10007), QStringLiteral("10.007"));
+    EXPECT_EQ(numberText(10007), QStringLiteral("10007"));
+    EXPECT_EQ(numberText(-1234567), QStringLiteral("-1234567"));
+    EXPECT_EQ(percentText(10007.2), QStringLiteral("10007%"));
+}
+
+TEST(PercentText, RoundsHalfToEven) {
+    EXPECT_EQ(percentText(62.34898018587336), QStringLiteral("62%"));
+    EXPECT_EQ(percentText(99.88673391830079), QStringLiteral("100%"));
+    EXPECT_EQ(percentText(2.5), QStringLiteral("2%"));
+    EXPECT_EQ(percentText(-97.9084087682323), QStringLiteral("-98%"));
+}
+
+TEST(PercentText, NeverShowsANoughtBelowZero) {
+    for (const double percent : {-0.5, -0.2667120284627676, -2.4493e-14, -0.0, 0.0, 1.2246e-14})
+        EXPECT_EQ(percentText(percent), QStringLiteral("0%")) << percent;
+}

@@ -10,7 +10,7 @@
 #include <QVBoxLayout>
 
 #include "runtime/errors.h"
-#include "support/find_control.h"
+#include "support/widget_driver.h"
 #include "support/recording_host.h"
 
 namespace {
@@ -112,7 +112,7 @@ TEST_F(FormLife, SeesAKeyBeforeTheControlAndLetsItThrough) {
     Probe form;
     form.Show();
     form.box.setFocus();
-    pressKey(form, Qt::Key_A);
+    pressKey(form.box, Qt::Key_A);
     EXPECT_EQ(form.happened.back(), QStringLiteral("key %1").arg(Qt::Key_A));
     EXPECT_EQ(form.box.text(), QStringLiteral("a"));
 }
@@ -122,7 +122,7 @@ TEST_F(FormLife, KeepsAKeyThatItUses) {
     form.keyToUse = Qt::Key_A;
     form.Show();
     form.box.setFocus();
-    pressKey(form, Qt::Key_A);
+    pressKey(form.box, Qt::Key_A);
     EXPECT_EQ(form.box.text(), QString());
 }
 
@@ -130,18 +130,18 @@ TEST_F(FormLife, SeesAKeyOnceAlsoIfNoControlWantsIt) {
     Probe form;
     form.Show();
     form.button.setFocus();
-    pressKey(form, Qt::Key_F7);
+    pressKey(form.button, Qt::Key_F7);
     EXPECT_EQ(form.happened.count(QStringLiteral("key %1").arg(Qt::Key_F7)), 1);
 }
 
 TEST_F(FormLife, IsClosedNeitherByEscNorByEnter) {
     Probe form;
     form.Show();
-    form.box.setFocus();
     int presses = 0;
     QObject::connect(&form.button, &QPushButton::clicked, &form, [&] { ++presses; });
-    pressKey(form, Qt::Key_Escape);
-    pressKey(form, Qt::Key_Return);
+    form.box.setFocus();
+    pressKey(form.box, Qt::Key_Escape);
+    pressKey(form.box, Qt::Key_Return);
     EXPECT_TRUE(form.isLoaded());
     EXPECT_EQ(presses, 0);
 }
@@ -149,10 +149,10 @@ TEST_F(FormLife, IsClosedNeitherByEscNorByEnter) {
 TEST_F(FormLife, PressesTheButtonThatHasTheFocusByEnter) {
     Probe form;
     form.Show();
-    form.button.setFocus();
     int presses = 0;
     QObject::connect(&form.button, &QPushButton::clicked, &form, [&] { ++presses; });
-    pressKey(form, Qt::Key_Return);
+    form.button.setFocus();
+    pressKey(form.button, Qt::Key_Return);
     EXPECT_EQ(presses, 1);
 }
 

@@ -5,7 +5,7 @@
 
 #include <QLabel>
 
-#include "support/find_control.h"
+#include "support/widget_driver.h"
 #include "support/recording_host.h"
 
 namespace {

@@ -5,7 +5,7 @@
 
 #include <QLabel>
 
-#include "support/find_control.h"
+#include "support/widget_driver.h"
 #include "support/recording_host.h"
 
 namespace {
@@ -23,7 +23,7 @@ TEST_F(WaitWindow, AsksForPatience) {
     showWaitWindow();
     ASSERT_NE(shown(), nullptr);
     EXPECT_TRUE(shown()->isVisible());
-    EXPECT_EQ(findControl<QLabel>(*shown(), "lblWait").text(), QStringLiteral("Please wait ....."));
+    EXPECT_EQ(child<QLabel>(*shown(), QStringLiteral("lblWait")).text(), QStringLiteral("Please wait ....."));
 }
 
 TEST_F(WaitWindow, GoesWhenItIsUnloaded) {

@@ -5,7 +5,7 @@
 
 #include <memory>
 
-#include "support/find_control.h"
+#include "support/widget_driver.h"
 #include "support/people.h"
 #include "support/program_directory.h"
 #include "support/recording_host.h"
@@ -30,7 +30,7 @@ class MainWindowTest : public testing::Test {
     // A control of the main window by its name.
     template <class Control>
     Control& control(const char* name) {
-        return findControl<Control>(*window_, name);
+        return child<Control>(*window_, QString::fromLatin1(name));
     }
 
     // Triggers a menu entry or a toolbar button by its name, as the user does.

@@ -48,6 +48,11 @@ Answer RecordingHost::showMessage(const Message& message) {
     return answer;
 }
 
+void RecordingHost::paintWindows() {
+    if (onPaintWindows_)
+        onPaintWindows_();
+}
+
 void RecordingHost::endProcess(int exitCode) {
     if (!exitCode_)
         exitCode_ = exitCode;

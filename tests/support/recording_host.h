@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -30,6 +31,9 @@ class RecordingHost final : public Host {
 
     int yields() const { return yields_; }
 
+    // What is to happen whenever windows are let to appear and paint.
+    void onPaintWindows(std::function<void()> action) { onPaintWindows_ = std::move(action); }
+
     void setNow(Date now) { now_ = now; }
     void setProgramDirectory(const QString& directory) { programDirectory_ = directory; }
     void setAnotherInstanceRuns(bool runs) { anotherInstanceRuns_ = runs; }
@@ -42,7 +46,7 @@ class RecordingHost final : public Host {
     bool anotherInstanceRuns() const override { return anotherInstanceRuns_; }
     Answer showMessage(const Message& message) override;
     void yield() override { ++yields_; }
-    void paintWindows() override {}
+    void paintWindows() override;
     void endProcess(int exitCode) override;
 
   private:
@@ -59,4 +63,5 @@ class RecordingHost final : public Host {
     std::vector<Message> messages_;
     std::optional<int> exitCode_;
     int yields_ = 0;
+    std::function<void()> onPaintWindows_;
 };

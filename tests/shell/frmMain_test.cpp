@@ -3,11 +3,13 @@
 #include "shell/frmMain.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QMenu>
 #include <QToolBar>
 
 #include "controls/chart.h"
 #include "controls/combo_box.h"
+#include "controls/date_picker.h"
 #include "controls/list_box.h"
 #include "controls/month_view.h"
 #include "controls/picture_button.h"
@@ -66,8 +68,8 @@ TEST_F(MainWindow, ChartsThePersonWhoIsChosen) {
     EXPECT_EQ(control<QLabel>("lblTitle").text(), QStringLiteral("Biorhythm for Anna Smith"));
     expectChartFrom(kAnnasBirthdate, DateSerial(2000, 3, 14));
     EXPECT_EQ(panel(),
-              QStringLiteral("14/03/2000:   Emotional: 62%, Physical: 82%, Intellectual: 100%, "
-                             "Average: 81%"));
+              QStringLiteral("14/03/2000:   Emotional: 62%, Physical: 52%, Intellectual: 100%, "
+                             "Average: 71%"));
     EXPECT_EQ(control<StatusBar>("sbMain").panelToolTip(), panel());
 }
 
@@ -110,6 +112,7 @@ TEST_F(MainWindow, KeepsTheBlankChartWhenADateIsPickedWithoutAPerson) {
 
 TEST_F(MainWindow, ChartsAPersonWhoseCategoryIsGone) {
     directory_.dropConstraints();
+    addCategory(QStringLiteral("Family"));
     addPerson({.name = QStringLiteral("Orphan"), .birthdate = Value(kAnnasBirthdate), .catId = 99});
     loadAndChoose(QStringLiteral("Orphan"));
     expectChartFrom(kAnnasBirthdate, DateSerial(2000, 3, 14));
@@ -127,6 +130,7 @@ TEST_F(MainWindow, EndsTheProgramForAPersonWhoIsGone) {
 
 TEST_F(MainWindow, EndsTheProgramForAPersonWithoutABirthDate) {
     directory_.dropConstraints();
+    addCategory(QStringLiteral("Family"));
     addPerson({.name = QStringLiteral("Undated"), .birthdate = {}, .catId = 1});
     load();
     host_.expectMessage(QStringLiteral("Run-time error '94':\n\nInvalid use of Null"));
@@ -190,7 +194,7 @@ TEST_F(MainWindow, EndsTheProgramWhenItScrollsBeyondTheLastDate) {
 
 TEST_F(MainWindow, TellsThePointUnderTheMouse) {
     loadAndChoose(kAnna);
-    EXPECT_EQ(tipAt(795, 1000), QStringLiteral("14/03/2000: Emot.: 62%, Phys.: 82%, Intel.: 100%"));
+    EXPECT_EQ(tipAt(795, 1000), QStringLiteral("14/03/2000: Emot.: 62%, Phys.: 52%, Intel.: 100%"));
     EXPECT_EQ(chart().MousePointer(), MousePointerShape::ArrowQuestion);
     EXPECT_TRUE(tipAt(4695, 1000).startsWith(QStringLiteral("13/04/2000: ")));
 }
@@ -254,7 +258,8 @@ TEST_F(MainWindow, IsNotClosedByEsc) {
 TEST_F(MainWindow, EndsTheProgramWithoutItsDatabase) {
     QFile::remove(directory_.people());
     host_.expectMessage(
-        QStringLiteral("Run-time error '53':\n\nFile not found: %1").arg(directory_.people()));
+        QStringLiteral("Run-time error '53':\n\nFile not found: there is no file of this name, %1")
+            .arg(directory_.people()));
     load();
     EXPECT_EQ(host_.exitCode(), 1);
 }

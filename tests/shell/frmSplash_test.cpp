@@ -5,8 +5,8 @@
 
 #include <QLabel>
 
-#include "support/widget_driver.h"
 #include "support/recording_host.h"
+#include "support/widget_driver.h"
 
 namespace {
 

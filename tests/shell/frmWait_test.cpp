@@ -5,8 +5,8 @@
 
 #include <QLabel>
 
-#include "support/widget_driver.h"
 #include "support/recording_host.h"
+#include "support/widget_driver.h"
 
 namespace {
 
@@ -23,7 +23,8 @@ TEST_F(WaitWindow, AsksForPatience) {
     showWaitWindow();
     ASSERT_NE(shown(), nullptr);
     EXPECT_TRUE(shown()->isVisible());
-    EXPECT_EQ(child<QLabel>(*shown(), QStringLiteral("lblWait")).text(), QStringLiteral("Please wait ....."));
+    EXPECT_EQ(child<QLabel>(*shown(), QStringLiteral("lblWait")).text(),
+              QStringLiteral("Please wait ....."));
 }
 
 TEST_F(WaitWindow, GoesWhenItIsUnloaded) {

@@ -1,6 +1,8 @@
 // The chart of the main window.
 #include "shell/main_chart.h"
 
+#include <QLabel>
+
 #include "controls/chart.h"
 #include "controls/list_box.h"
 #include "controls/month_view.h"

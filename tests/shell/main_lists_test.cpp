@@ -1,6 +1,8 @@
 // The lists of the main window.
 #include "shell/main_lists.h"
 
+#include <QLabel>
+
 #include "controls/chart.h"
 #include "controls/combo_box.h"
 #include "controls/list_box.h"

@@ -8,6 +8,7 @@
 
 #include "cycles/calendar.h"
 #include "runtime/host.h"
+#include "support/printing.h"
 
 // It is 14 March 2000, 14:05, in English, with dates as dd/MM/yyyy. A box that the test did not
 // expect fails the test, and so does an expected one that never comes. An end of the process is

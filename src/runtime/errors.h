@@ -27,7 +27,7 @@ enum class ErrorNumber : int {
     ItemNotFound = 3265,
 };
 
-// The classical text of an error; those of the record sets end with a full stop, the others do not.
+// The classical text of an error. Only texts of the record sets may end with a full stop.
 QString errorText(ErrorNumber number);
 
 // An error of the world: a file that is gone, a value that is missing, a number out of range. It

@@ -23,7 +23,8 @@ QTime toQTime(Date date) {
 }
 
 Date fromQDate(QDate date) {
-    return Date(static_cast<double>(date.toJulianDay() - kJulianDayOfDayZero));
+    // The Julian day of an invalid date is so low that only a float can go below it.
+    return Date(static_cast<double>(date.toJulianDay()) - kJulianDayOfDayZero);
 }
 
 Date fromQDateTime(const QDateTime& moment) {

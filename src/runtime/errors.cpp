@@ -45,10 +45,23 @@ QString errorText(ErrorNumber number) {
             return QStringLiteral(
                 "Either BOF or EOF is True, or the current record has been deleted. Requested "
                 "operation requires a current record.");
+        case ErrorNumber::NotUpdatable:
+            return QStringLiteral(
+                "Current Recordset does not support updating. This may be a limitation of the "
+                "provider, or of the selected locktype.");
         case ErrorNumber::ItemNotFound:
             return QStringLiteral(
                 "Item cannot be found in the collection corresponding to the requested name or "
                 "ordinal.");
+        case ErrorNumber::ObjectClosed:
+            return QStringLiteral("Operation is not allowed when the object is closed");
+        case ErrorNumber::IntegrityViolation:
+            return QStringLiteral(
+                "Data value conflicts with the integrity constraints of the field");
+        case ErrorNumber::RowNotLocated:
+            return QStringLiteral(
+                "Row cannot be located for updating. Some values may have been changed since it "
+                "was last read.");
     }
     Q_UNREACHABLE();
 }

@@ -24,7 +24,11 @@ enum class ErrorNumber : int {
     Printer = 482,
     WrongArguments = 3001,
     NoCurrentRecord = 3021,
+    NotUpdatable = 3251,
     ItemNotFound = 3265,
+    ObjectClosed = 3704,
+    IntegrityViolation = 3719,
+    RowNotLocated = -2147217864,
 };
 
 // The classical text of an error. Only texts of the record sets may end with a full stop.

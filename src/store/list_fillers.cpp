@@ -1,1 +1,43 @@
+// The reading of people and categories for lists.
 #include "store/list_fillers.h"
+
+#include "store/databases.h"
+#include "store/person_entry.h"
+#include "store/recordset.h"
+#include "store/statements.h"
+
+namespace {
+
+void fillFrom(Recordset& people, ItemList& list) {
+    std::vector<ListEntry> entries;
+    entries.reserve(static_cast<std::size_t>(people.RecordCount()));
+    for (; !people.EndOfFile(); people.MoveNext())
+        entries.push_back({displayText(people), people.Fields(u"NameID").toLong()});
+    list.fill(std::move(entries));
+}
+
+}  // namespace
+
+void fillPeople(ItemList& list) {
+    Connection connection = openPersonDatabase();
+    Recordset people(connection, statements::allPeopleWithNotes());
+    list.fill({});
+    people.MoveFirst();
+    fillFrom(people, list);
+}
+
+void fillPeopleOfCategory(ItemList& list, Long catId) {
+    Connection connection = openPersonDatabase();
+    Recordset people(connection, statements::peopleOfCategory(catId));
+    fillFrom(people, list);
+}
+
+std::vector<ListEntry> readCategoryEntries() {
+    Connection connection = openPersonDatabase();
+    Recordset categories(connection, statements::categories());
+    std::vector<ListEntry> entries{{.text = QStringLiteral("*"), .itemData = 0, .leads = true}};
+    for (categories.MoveFirst(); !categories.EndOfFile(); categories.MoveNext())
+        entries.push_back(
+            {categories.Fields(u"Category").toText(), categories.Fields(u"CatID").toLong()});
+    return entries;
+}

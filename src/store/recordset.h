@@ -23,17 +23,18 @@ enum ObjectState { adStateClosed = 0, adStateOpen = 1 };
 //
 // Field names match without regard to case; an unknown one raises 3265. An operation that needs a
 // row and has none raises 3021. A set that is read-only, or whose statement does not read one
-// table with its key, raises 440 on any change.
+// table with its key, raises 3251 on any change; a closed one raises 3704 on everything.
 class Recordset {
   public:
-    // Sends the statement and reads all rows. Stands on the first row, or at both ends. The
-    // connection must live as long as the set writes through it.
+    // Sends the statement and reads all rows. Stands on the first row, or at both ends. What the
+    // connection opened must stay open as long as the set writes through it.
     Recordset(Connection& connection, const QString& statement,
               LockType lockType = adLockOptimistic);
     ~Recordset();
     Recordset(Recordset&&) noexcept;
     Recordset& operator=(Recordset&&) noexcept;
 
+    // Frees the rows and forgets what is pending.
     void Close();
     ObjectState State() const;
 
@@ -42,7 +43,8 @@ class Recordset {
     bool BOF() const;
     bool EndOfFile() const;
 
-    // The place of the current row, counted from 1; -2 at BOF, -3 at EOF, -1 in an empty set.
+    // The place of the current row, counted from 1; -2 at BOF, -3 at EOF, -1 in an empty set and
+    // after Delete.
     Long AbsolutePosition() const;
 
     // A number above 0 that stays with the current row as long as the set is open. Assigning one
@@ -57,12 +59,12 @@ class Recordset {
     void MoveNext();
     void MovePrevious();
 
-    // Moves by that many rows, at most one beyond either end.
+    // Moves by that many rows, at most one beyond either end; from beyond an end it does not lead
+    // further away, but raises 3021.
     void Move(Long rows);
 
-    // Goes to the first row, from the current one on and including it, that fulfils the criteria:
-    // a field, one of = <> < <= > >=, and a number or a text in single quotes. Texts compare as
-    // text_order.h says; Null fulfils nothing. No match: the set stands at EOF. Raises 3021 where
+    // Goes to the first row, from the current one on and including it, that fulfils the criteria,
+    // which are written as criterion.h says. No match: the set stands at EOF. Raises 3021 where
     // there is no current row, 3001 for criteria it cannot read.
     void Find(const QString& criteria);
 
@@ -82,14 +84,16 @@ class Recordset {
     void UpdateBatch(AffectRecords affected);
 
     // Forgets the current row's pending values; a new row that was never written goes, and the set
-    // then stands on the row that was current before AddNew.
+    // then stands on the row that was current before AddNew, or at EOF if none was.
     void CancelUpdate();
 
-    // Deletes the current row from the store at once. The set stands where it was, on no row,
-    // until it moves.
+    // Deletes the current row from the store at once, by adAffectCurrent only. The set stands where
+    // it was, on no row, until it moves.
     void Delete(AffectRecords affected);
 
   private:
-    class Cursor;
-    std::unique_ptr<Cursor> cursor_;
+    struct Contents;
+    Contents& open() const;
+
+    std::unique_ptr<Contents> contents_;  // none when closed
 };

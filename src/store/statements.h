@@ -9,16 +9,16 @@
 namespace statements {
 
 // People.
-QString allPeopleWithNotes();        // all fields, in order of Name
-QString allPeople();                 // without Notes, in order of Name
-QString person(Long nameId);         // all fields of one
+QString allPeopleWithNotes();  // all fields, in order of Name
+QString allPeople();           // without Notes, in order of Name
+QString person(Long nameId);   // all fields of one
 QString peopleOfCategory(Long catId);
 QString males();
 QString malesOfCategory(Long catId);
 QString females();
 QString femalesOfCategory(Long catId);
-QString birthdays();                 // in order of Name, FName and Birthdate
-QString wholeTable();                // to add rows to, and to read an old database
+QString birthdays();   // in order of Name, FName and Birthdate
+QString wholeTable();  // to add rows to, and to read an old database
 
 // Categories.
 QString categories();

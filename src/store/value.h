@@ -2,6 +2,9 @@
 #pragma once
 
 #include <QString>
+#include <concepts>
+#include <cstdint>
+#include <utility>
 #include <variant>
 
 #include "cycles/date.h"
@@ -12,15 +15,23 @@
 // round raises 13 (Type mismatch).
 class Value {
   public:
+    using Content = std::variant<std::monostate, std::int64_t, double, QString>;
+
     Value() = default;  // Null
-    Value(Long number);
-    Value(double number);
-    Value(QString text);
-    explicit Value(Date date);
+    Value(Long number) : content_(std::int64_t{number}) {}
+    Value(double number) : content_(number) {}
+    Value(QString text) : content_(std::move(text)) {}
+    explicit Value(std::int64_t number) : content_(number) {}
+    explicit Value(Date date) : content_(date.serial()) {}
 
-    bool isNull() const;
+    // A Boolean is the number -1 or 0.
+    template <std::same_as<bool> Boolean>
+    explicit Value(Boolean truth) : Value(truth ? -1 : 0) {}
 
-    // A whole number; raises 6 (Overflow) outside 32 bits.
+    bool isNull() const { return std::holds_alternative<std::monostate>(content_); }
+    const Content& content() const { return content_; }
+
+    // A whole number, rounded half to even; raises 6 (Overflow) outside 32 bits.
     Long toLong() const;
     double toDouble() const;
     Date toDate() const;
@@ -33,8 +44,7 @@ class Value {
     friend bool operator==(const Value&, const Value&) = default;
 
   private:
-    friend class Statement;
-    std::variant<std::monostate, std::int64_t, double, QString> value_;
+    Content content_;
 };
 
 // Null and the empty text, which are the same to whoever shows them.

@@ -1,0 +1,79 @@
+// The reading and the comparing of criterion.h.
+#include "store/criterion.h"
+
+#include <QRegularExpression>
+
+#include "runtime/errors.h"
+#include "runtime/text_order.h"
+
+namespace {
+
+const QRegularExpression& grammar() {
+    static const QRegularExpression expression(QRegularExpression::anchoredPattern(
+        QStringLiteral(R"( *(?<field>\w+) *(?<sign><>|<=|>=|=|<|>) *)"
+                       R"((?:(?<number>[-+]?\d+(?:\.\d+)?)|'(?<text>(?:[^']|'')*)') *)")));
+    return expression;
+}
+
+}  // namespace
+
+Criterion::Criterion(const QString& criteria) {
+    const QRegularExpressionMatch match = grammar().match(criteria);
+    if (!match.hasMatch())
+        throw RuntimeError(ErrorNumber::WrongArguments);
+    field_ = match.captured(QStringLiteral("field"));
+    comparison_ = comparisonOf(match.captured(QStringLiteral("sign")));
+    const QString number = match.captured(QStringLiteral("number"));
+    if (number.isEmpty())
+        operand_ = match.captured(QStringLiteral("text"))
+                       .replace(QStringLiteral("''"), QStringLiteral("'"))
+                       .toUtf8();
+    else
+        operand_ = number.toDouble();
+}
+
+Criterion::Comparison Criterion::comparisonOf(const QString& sign) {
+    if (sign == QStringLiteral("="))
+        return Comparison::Equal;
+    if (sign == QStringLiteral("<>"))
+        return Comparison::NotEqual;
+    if (sign == QStringLiteral("<"))
+        return Comparison::Less;
+    if (sign == QStringLiteral("<="))
+        return Comparison::LessOrEqual;
+    return sign == QStringLiteral(">") ? Comparison::Greater : Comparison::GreaterOrEqual;
+}
+
+bool Criterion::isFulfilledBy(const Value& value) const {
+    if (const auto* text = std::get_if<QString>(&value.content()))
+        return isFulfilledBy(QByteArrayView(text->toUtf8()));
+    return !value.isNull() && isFulfilledBy(value.toDouble());
+}
+
+bool Criterion::isFulfilledBy(double number) const {
+    const auto* operand = std::get_if<double>(&operand_);
+    return operand && accepts(number <=> *operand);
+}
+
+bool Criterion::isFulfilledBy(QByteArrayView text) const {
+    const auto* operand = std::get_if<QByteArray>(&operand_);
+    return operand && accepts(compareUtf8(text, *operand));
+}
+
+bool Criterion::accepts(std::partial_ordering order) const {
+    switch (comparison_) {
+        case Comparison::Equal:
+            return order == 0;
+        case Comparison::NotEqual:
+            return order != 0;
+        case Comparison::Less:
+            return order < 0;
+        case Comparison::LessOrEqual:
+            return order <= 0;
+        case Comparison::Greater:
+            return order > 0;
+        case Comparison::GreaterOrEqual:
+            return order >= 0;
+    }
+    Q_UNREACHABLE();
+}

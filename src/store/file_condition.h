@@ -1,0 +1,23 @@
+// Whether a database file can serve, judged before it is used.
+#pragma once
+
+#include <QString>
+#include <optional>
+
+#include "runtime/errors.h"
+#include "store/connection.h"
+
+// What the file system says of a path.
+struct FileCondition {
+    bool exists = true;
+    bool isFolder = false;
+    bool isEmpty = false;
+    bool isWritable = true;
+    bool canHaveJournal = true;  // a file in the same folder, which undoes a write that fails
+};
+
+FileCondition conditionOf(const QString& path);
+
+// Why a file in this condition cannot be opened for that access; nothing if it can.
+std::optional<RuntimeError> objectionTo(const FileCondition& condition, Access access,
+                                        const QString& path);

@@ -8,15 +8,19 @@ function(ondara_room name)
   set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON)
 endfunction()
 
-# ondara_test(ROOM SOURCES file... LINKS library...): the tests of one room, which link that room
-# alone, and the support library that brings the main function.
+# ondara_test(ROOM [NAME name] SOURCES file... LINKS library...): the tests of one room, which link that
+# room alone, and the support library that brings the main function. A room whose tests need more
+# than one main function names each of its programs.
 function(ondara_test room)
-  cmake_parse_arguments(TEST "" "" "SOURCES;LINKS" ${ARGN})
-  add_executable(${room}_tests ${TEST_SOURCES})
-  target_link_libraries(${room}_tests PRIVATE ${room} ${TEST_LINKS} GTest::gtest)
-  target_include_directories(${room}_tests PRIVATE "${CMAKE_SOURCE_DIR}/tests")
+  cmake_parse_arguments(TEST "" "NAME" "SOURCES;LINKS" ${ARGN})
+  if(NOT TEST_NAME)
+    set(TEST_NAME ${room}_tests)
+  endif()
+  add_executable(${TEST_NAME} ${TEST_SOURCES})
+  target_link_libraries(${TEST_NAME} PRIVATE ${room} ${TEST_LINKS} GTest::gtest)
+  target_include_directories(${TEST_NAME} PRIVATE "${CMAKE_SOURCE_DIR}/tests")
   gtest_discover_tests(
-    ${room}_tests
+    ${TEST_NAME}
     TEST_PREFIX "${room}/"
     DISCOVERY_MODE PRE_TEST
     PROPERTIES TIMEOUT 120)

@@ -1,0 +1,111 @@
+// The chart control: its properties, and the mouse.
+#include "controls/chart.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+#include <utility>
+
+#include "controls/chart_painter.h"
+#include "controls/twips.h"
+#include "runtime/errors.h"
+
+Chart::Chart(QWidget* parent) : QWidget(parent) {
+    setMouseTracking(true);
+    for (int i = 0; i < kMostSeries; ++i)
+        content_.series.push_back({.colour = static_cast<CycleColour>(i % kCycleColours)});
+}
+
+void Chart::setFixedTwips(QSizeF size, const QRectF& plotArea) {
+    content_.size = size;
+    content_.plotArea = plotArea;
+    setFixedSize(toPixels(qRound(size.width())), toPixels(qRound(size.height())));
+    update();
+}
+
+void Chart::setChartData(ChartTable table) {
+    if (table.columns.size() > kMostSeries)
+        throw RuntimeError(ErrorNumber::InvalidPropertyValue);
+    for (const std::vector<double>& column : table.columns)
+        Q_ASSERT(static_cast<qsizetype>(column.size()) == table.rowLabels.size());
+    content_.table = std::move(table);
+    update();
+}
+
+double Chart::Data(int row, int column) const {
+    const auto& [labels, columns] = content_.table;
+    if (row < 1 || row > labels.size() || column < 1 ||
+        static_cast<std::size_t>(column) > columns.size())
+        throw RuntimeError(ErrorNumber::InvalidPropertyArrayIndex);
+    return columns[static_cast<std::size_t>(column - 1)][static_cast<std::size_t>(row - 1)];
+}
+
+void Chart::setShowLegend(bool show) {
+    content_.showLegend = show;
+    update();
+}
+
+void Chart::setLegendLocation(LegendLocation location) {
+    content_.legendLocation = location;
+    update();
+}
+
+void Chart::setLegendFont(const QString& family, int points) {
+    content_.fontFamily = family;
+    content_.fontPoints = points;
+    update();
+}
+
+ChartSeries& Chart::series(int number) {
+    if (number < 1 || number > kMostSeries)
+        throw RuntimeError(ErrorNumber::InvalidPropertyArrayIndex);
+    return content_.series[static_cast<std::size_t>(number - 1)];
+}
+
+void Chart::setLegendText(int number, const QString& text) {
+    series(number).legendText = text;
+    update();
+}
+
+void Chart::setSeriesColour(int number, CycleColour colour) {
+    series(number).colour = colour;
+    update();
+}
+
+void Chart::setSeriesPattern(int number, PenPattern pattern) {
+    series(number).pattern = pattern;
+    update();
+}
+
+void Chart::setTitle(const QString& title) {
+    content_.title = title;
+    update();
+}
+
+void Chart::setMarkedRow(int row) {
+    content_.markedRow = row > 0 ? std::optional(row - 1) : std::nullopt;
+    update();
+}
+
+MousePointerShape Chart::MousePointer() const {
+    return cursor().shape() == Qt::WhatsThisCursor ? MousePointerShape::ArrowQuestion
+                                                   : MousePointerShape::Default;
+}
+
+void Chart::setMousePointer(MousePointerShape shape) {
+    if (shape == MousePointerShape::ArrowQuestion)
+        setCursor(Qt::WhatsThisCursor);
+    else
+        unsetCursor();
+}
+
+void Chart::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    paintChart(painter, content_, chartColours(palette()), 1.0 / kTwipsPerPixel);
+}
+
+void Chart::mouseMoveEvent(QMouseEvent* event) {
+    Q_EMIT MouseMove(toTwips(event->position().x()), toTwips(event->position().y()));
+    if (QToolTip::isVisible())
+        QToolTip::showText(event->globalPosition().toPoint(), toolTip(), this);
+}

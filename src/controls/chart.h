@@ -1,0 +1,66 @@
+// The chart control.
+#pragma once
+
+#include <QWidget>
+
+#include "controls/chart_content.h"
+
+enum class MousePointerShape { Default = 0, ArrowQuestion = 14 };
+
+// A line chart of up to seven series, each a column of the table that it is given whole. Series,
+// rows and columns count from 1. What it shows can be read back as plain data from content().
+class Chart final : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit Chart(QWidget* parent = nullptr);
+
+    // Fixes the chart's size, and the place of the plot area in it, both in twips.
+    void setFixedTwips(QSizeF size, const QRectF& plotArea);
+
+    const ChartContent& content() const { return content_; }
+
+    // Takes over the values. Every column must have as many of them as there are rows.
+    // Raises 380 for more than seven columns.
+    void setChartData(ChartTable table);
+
+    // One value. Raises 381 outside the table.
+    double Data(int row, int column) const;
+
+    bool ShowLegend() const { return content_.showLegend; }
+    void setShowLegend(bool show);
+    void setLegendLocation(LegendLocation location);
+
+    // The font of the legend, which all texts of the chart share.
+    void setLegendFont(const QString& family, int points);
+
+    // These three raise 381 for a series beyond the seventh.
+    void setLegendText(int series, const QString& text);
+    void setSeriesColour(int series, CycleColour colour);
+    void setSeriesPattern(int series, PenPattern pattern);
+
+    void setTitle(const QString& title);
+
+    // Makes one row stand out; none for 0.
+    void setMarkedRow(int row);
+
+    MousePointerShape MousePointer() const;
+    void setMousePointer(MousePointerShape shape);
+
+    // The tip follows the mouse, and its text may change while it is shown.
+    QString ToolTipText() const { return toolTip(); }
+    void setToolTipText(const QString& text) { setToolTip(text); }
+
+  Q_SIGNALS:
+    // The mouse has moved over the chart to this place, in twips from its top left corner.
+    void MouseMove(double X, double Y);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+
+  private:
+    ChartSeries& series(int number);
+
+    ChartContent content_;
+};

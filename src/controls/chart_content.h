@@ -1,0 +1,45 @@
+// What a chart shows, as plain data.
+#pragma once
+
+#include <QRectF>
+#include <QSizeF>
+#include <QString>
+#include <QStringList>
+#include <optional>
+#include <vector>
+
+#include "controls/cycle_colours.h"
+
+// The values: one label a row, and a column for each series, with one value a row.
+struct ChartTable {
+    QStringList rowLabels;
+    std::vector<std::vector<double>> columns;
+
+    friend bool operator==(const ChartTable&, const ChartTable&) = default;
+};
+
+inline constexpr int kMostSeries = 7;
+
+enum class PenPattern { Solid = 1, Dashed = 2, Dotted = 3, Ditted = 6 };
+
+struct ChartSeries {
+    QString legendText = {};
+    CycleColour colour = CycleColour::Emotional;
+    PenPattern pattern = PenPattern::Solid;
+};
+
+enum class LegendLocation { Right = 4, Bottom = 7 };
+
+// A line chart of values from -100 to 100 per cent. Lengths are twips from the top left corner.
+struct ChartContent {
+    QSizeF size;
+    QRectF plotArea;  // the rows lie in it as bands of equal width
+    ChartTable table;
+    std::vector<ChartSeries> series;  // at least as many as the table has columns
+    QString title;
+    bool showLegend = false;
+    LegendLocation legendLocation = LegendLocation::Bottom;
+    QString fontFamily;  // empty: the application's
+    int fontPoints = 8;
+    std::optional<int> markedRow;  // counted from 0
+};

@@ -1,0 +1,24 @@
+// The drop-down list on Qt's combo box.
+#include "controls/combo_box.h"
+
+#include <QListView>
+
+namespace {
+
+constexpr int kNarrowestInCharacters = 8;
+
+}  // namespace
+
+// The width asks for no entry's text, as there may be many.
+ComboBox::ComboBox(QWidget* parent) : QComboBox(parent) {
+    auto* list = new QListView(this);
+    list->setUniformItemSizes(true);
+    setView(list);
+    setModel(&entryModel());
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(kNarrowestInCharacters);
+    connect(this, &QComboBox::activated, this, [this](int index) {
+        follow(index);
+        fireClick();
+    });
+}

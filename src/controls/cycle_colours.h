@@ -1,0 +1,13 @@
+// The colours of the cycles, the one accent in all windows.
+#pragma once
+
+#include <QColor>
+
+class QPalette;
+
+enum class CycleColour { Emotional, Physical, Intellectual, Average };
+
+inline constexpr int kCycleColours = 4;
+
+// Blue, red, green and purple, in the shade that is legible on the palette's base.
+QColor cycleColour(CycleColour colour, const QPalette& palette);

@@ -1,0 +1,16 @@
+// The date picker on Qt's date edit.
+#include "controls/date_picker.h"
+
+#include "controls/quiet_calendar.h"
+#include "runtime/host.h"
+#include "runtime/qt_dates.h"
+
+DatePicker::DatePicker(QWidget* parent) : QDateEdit(parent), DateControl(host().today()) {
+    setLocale(host().locale());
+    setDisplayFormat(QStringLiteral("d MMMM yyyy"));
+    setDateRange(toQDate(kEarliest), toQDate(kLatest));
+    setDate(toQDate(Value()));
+    setCalendarPopup(true);
+    setCalendarWidget(new QuietCalendar(this));
+    connect(this, &QDateEdit::dateChanged, this, [this](QDate date) { shows(date); });
+}

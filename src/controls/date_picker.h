@@ -1,0 +1,28 @@
+// The date picker.
+#pragma once
+
+#include <QDateEdit>
+
+#include "controls/date_control.h"
+
+// A field with a date, which the user types or picks from a calendar that drops down. Change is
+// fired when the user has changed the date.
+class DatePicker final : public QDateEdit, public DateControl {
+    Q_OBJECT
+
+  public:
+    explicit DatePicker(QWidget* parent = nullptr);
+
+    // The form in which the date is shown, as "d MMMM yyyy" or "MMMM yyyy", with the names of the
+    // host's locale.
+    QString CustomFormat() const { return displayFormat(); }
+    void setCustomFormat(const QString& format) { setDisplayFormat(format); }
+
+  Q_SIGNALS:
+    void Change();
+
+  protected:
+    void showValue(QDate value) override { setDate(value); }
+    void showMinDate(QDate minDate) override { setMinimumDate(minDate); }
+    void fireChange() override { Q_EMIT Change(); }
+};

@@ -1,0 +1,27 @@
+// The entries of a list as Qt's views read them.
+#pragma once
+
+#include <QAbstractListModel>
+
+#include "controls/list_entries.h"
+
+// Holds the entries and tells the view of every change; one reset for a whole fill.
+class EntryModel final : public QAbstractListModel {
+    Q_OBJECT
+
+  public:
+    const ListEntries& entries() const { return entries_; }
+
+    void setSorted(bool sorted);
+    void fill(std::vector<ListEntry> entries);
+
+    void insert(int place, const QString& text);
+    void remove(int index);
+    void setItemData(int index, Long value) { entries_.setItemData(index, value); }
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+
+  private:
+    ListEntries entries_;
+};

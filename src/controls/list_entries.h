@@ -1,0 +1,56 @@
+// The entries of a list: their order, their item data, and how they are found.
+#pragma once
+
+#include <QString>
+#include <vector>
+
+#include "cycles/integers.h"
+#include "store/item_list.h"
+
+// The data behind a list box and a drop-down list. A sorted list keeps its entries in the one order
+// of texts (TextKey), equal texts in the order in which they came, and entries that lead before all
+// others. The keys of the order live as long as one sort: adding an entry looks at a few neighbours
+// and makes theirs again, which is cheaper than holding the keys of all.
+//
+// It knows nothing of a selection.
+class ListEntries {
+  public:
+    // Whether the entries stand in the order of their text. Entries that are there get into it.
+    void setSorted(bool sorted);
+
+    // Replaces all entries.
+    void fill(std::vector<ListEntry> entries);
+
+    // Where an entry with this text would go.
+    int placeOf(const QString& text) const;
+
+    // Adds an entry with item data 0 at the place that placeOf gives.
+    void insert(int place, const QString& text);
+
+    // Removes an entry that is there.
+    void remove(int index);
+
+    int count() const { return static_cast<int>(entries_.size()); }
+
+    // The place of the entry that was added last; -1 if none was, or the list has changed since in
+    // another way.
+    int newIndex() const { return newIndex_; }
+
+    // These three raise 381 if there is no such entry.
+    const QString& text(int index) const;
+    Long itemData(int index) const;
+    void setItemData(int index, Long value);
+
+    // The first entry with exactly this text, -1 if there is none.
+    int find(const QString& text) const;
+
+    bool contains(int index) const { return index >= 0 && index < count(); }
+
+  private:
+    void sort();
+    const ListEntry& entry(int index) const;
+
+    std::vector<ListEntry> entries_;
+    bool sorted_ = false;
+    int newIndex_ = -1;
+};

@@ -1,0 +1,77 @@
+// The picture of a chart, where it matters: the curves are where the data says, and nowhere else.
+#include "controls/chart_painter.h"
+
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QPainter>
+#include <QPalette>
+#include <cmath>
+
+#include "controls/chart_layout.h"
+
+namespace {
+
+constexpr int kScreen = 1;
+constexpr int kPrinter = 6;  // 576 dots to the inch
+
+// A steep wave that reaches both ends of the scale, in the physical cycle's colour.
+ChartContent wave() {
+    ChartContent content;
+    content.size = {5055, 3615};
+    content.plotArea = QRectF(QPointF(795, 360), QPointF(4695, 2295));
+    content.series = {{.colour = CycleColour::Physical}};
+    content.table.columns.emplace_back();
+    for (int row = 0; row < 31; ++row) {
+        content.table.rowLabels += QString();
+        content.table.columns[0].push_back(100 * std::sin(row * 0.7));
+    }
+    return content;
+}
+
+QImage paint(const ChartContent& content, int pixelsPerScreenPixel) {
+    const double scale = pixelsPerScreenPixel / 15.0;
+    QImage image((content.size * scale).toSize(), QImage::Format_RGB32);
+    QPainter painter(&image);
+    paintChart(painter, content, chartColours(QPalette(Qt::white)), scale);
+    return image;
+}
+
+bool isReddish(QRgb pixel) {
+    return qRed(pixel) > qGreen(pixel) + 60 && qRed(pixel) > qBlue(pixel) + 60;
+}
+
+}  // namespace
+
+TEST(ChartPainter, LeadsTheCurveThroughThePointOfEveryRowAtAnyScale) {
+    const ChartContent content = wave();
+    for (const int size : {kScreen, kPrinter}) {
+        const QImage image = paint(content, size);
+        for (int row = 0; row < 31; ++row) {
+            const double value = content.table.columns[0][static_cast<std::size_t>(row)];
+            const QPointF point(rowCentre(content, row), valueHeight(content, value));
+            const QPointF pixel = point * size / 15.0;
+            EXPECT_TRUE(
+                isReddish(image.pixel(static_cast<int>(pixel.x()), static_cast<int>(pixel.y()))))
+                << "row " << row << " at " << size;
+        }
+    }
+}
+
+TEST(ChartPainter, PaintsNothingOfTheCurvesOutsideThePlotArea) {
+    ChartContent content = wave();
+    content.table.columns[0][3] = 300;
+    content.table.columns[0][9] = -300;
+    const QImage image = paint(content, kScreen);
+    const QRect plot(53, 24, 260, 129);
+    int inside = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (!isReddish(image.pixel(x, y)))
+                continue;
+            EXPECT_TRUE(plot.contains(x, y)) << x << ", " << y;
+            ++inside;
+        }
+    }
+    EXPECT_GT(inside, 300);
+}

@@ -1,0 +1,138 @@
+// The entries of a list, without any list on a screen.
+#include "controls/list_entries.h"
+
+#include <gtest/gtest.h>
+
+#include <QStringList>
+
+#include <rapidcheck/gtest.h>
+
+#include "runtime/text_order.h"
+#include "support/error_number.h"
+
+namespace {
+
+QStringList textsOf(const ListEntries& entries) {
+    QStringList texts;
+    for (int i = 0; i < entries.count(); ++i)
+        texts += entries.text(i);
+    return texts;
+}
+
+ListEntries sortedEntries(std::vector<ListEntry> entries) {
+    ListEntries sorted;
+    sorted.setSorted(true);
+    sorted.fill(std::move(entries));
+    return sorted;
+}
+
+int add(ListEntries& entries, const QString& text) {
+    const int place = entries.placeOf(text);
+    entries.insert(place, text);
+    return place;
+}
+
+}  // namespace
+
+TEST(ListEntries, StandInTheOrderOfTheirTextWhateverTheOrderOfFilling) {
+    const ListEntries entries = sortedEntries({{QStringLiteral("Smith, Anna")},
+                                               {QStringLiteral("Smithers")},
+                                               {QStringLiteral("Smith")},
+                                               {QStringLiteral("smith, Ab")}});
+    EXPECT_EQ(textsOf(entries),
+              QStringList({QStringLiteral("Smith"), QStringLiteral("smith, Ab"),
+                           QStringLiteral("Smith, Anna"), QStringLiteral("Smithers")}));
+}
+
+TEST(ListEntries, KeepTheGivenOrderUnlessTheListIsSorted) {
+    ListEntries entries;
+    entries.fill({{QStringLiteral("b"), 2}, {QStringLiteral("a"), 1}});
+    add(entries, QStringLiteral("aa"));
+    EXPECT_EQ(textsOf(entries),
+              QStringList({QStringLiteral("b"), QStringLiteral("a"), QStringLiteral("aa")}));
+    EXPECT_EQ(entries.newIndex(), 2);
+}
+
+TEST(ListEntries, KeepTheirItemDataThroughTheSort) {
+    const ListEntries entries =
+        sortedEntries({{QStringLiteral("Zed"), 26}, {QStringLiteral("abe"), 1}});
+    EXPECT_EQ(entries.itemData(0), 1);
+    EXPECT_EQ(entries.itemData(1), 26);
+}
+
+TEST(ListEntries, ThatLeadStandFirstWhateverTheirText) {
+    ListEntries entries = sortedEntries(
+        {{QStringLiteral("!first"), 7}, {QStringLiteral("*"), 0, true}, {QStringLiteral(""), 8}});
+    EXPECT_EQ(entries.text(0), QStringLiteral("*"));
+    EXPECT_EQ(entries.itemData(0), 0);
+    EXPECT_EQ(add(entries, QStringLiteral("")), 2);
+    EXPECT_EQ(textsOf(entries), QStringList({QStringLiteral("*"), QString(), QStringLiteral(""),
+                                             QStringLiteral("!first")}));
+}
+
+TEST(ListEntries, OfEqualTextStandInTheOrderInWhichTheyCame) {
+    ListEntries entries = sortedEntries({{QStringLiteral("ADA"), 1},
+                                         {QStringLiteral("Zed"), 2},
+                                         {QStringLiteral("ada"), 3},
+                                         {QStringLiteral("Ada"), 4}});
+    EXPECT_EQ(add(entries, QStringLiteral("aDA")), 3);
+    EXPECT_EQ(textsOf(entries),
+              QStringList({QStringLiteral("ADA"), QStringLiteral("ada"), QStringLiteral("Ada"),
+                           QStringLiteral("aDA"), QStringLiteral("Zed")}));
+}
+
+TEST(ListEntries, TellTheNewIndexUntilTheListChangesInAnotherWay) {
+    ListEntries entries = sortedEntries({{QStringLiteral("a")}, {QStringLiteral("c")}});
+    EXPECT_EQ(entries.newIndex(), -1);
+    add(entries, QStringLiteral("b"));
+    EXPECT_EQ(entries.newIndex(), 1);
+    entries.setItemData(1, 5);
+    EXPECT_EQ(entries.newIndex(), 1);
+    entries.remove(0);
+    EXPECT_EQ(entries.newIndex(), -1);
+    add(entries, QStringLiteral("d"));
+    entries.fill({});
+    EXPECT_EQ(entries.newIndex(), -1);
+}
+
+TEST(ListEntries, AreFoundByExactlyTheirTextAndTheFirstOfEqualOnes) {
+    const ListEntries entries = sortedEntries({{QStringLiteral("Curie, Marie"), 1},
+                                               {QStringLiteral("curie, marie"), 2},
+                                               {QStringLiteral("Curie, Marie"), 3}});
+    EXPECT_EQ(entries.find(QStringLiteral("Curie, Marie")), 0);
+    EXPECT_EQ(entries.find(QStringLiteral("curie, marie")), 1);
+    EXPECT_EQ(entries.find(QStringLiteral("Curie")), -1);
+    EXPECT_EQ(entries.find(QStringLiteral("Curie, Marie ")), -1);
+}
+
+TEST(ListEntries, RaiseAnErrorForAnIndexThatHasNoEntry) {
+    ListEntries entries = sortedEntries({{QStringLiteral("one")}});
+    for (const int index : {-1, 1, 1000}) {
+        EXPECT_EQ(errorNumberOf([&] { (void)entries.itemData(index); }), 381) << index;
+        EXPECT_EQ(errorNumberOf([&] { (void)entries.text(index); }), 381) << index;
+        EXPECT_EQ(errorNumberOf([&] { entries.setItemData(index, 1); }), 381) << index;
+    }
+    EXPECT_EQ(errorNumberOf([&] { (void)entries.itemData(0); }), 0);
+}
+
+TEST(ListEntries, ThatAreThereGetIntoOrderWhenTheListBecomesSorted) {
+    ListEntries entries;
+    entries.fill({{QStringLiteral("b"), 2}, {QStringLiteral("a"), 1}});
+    entries.setSorted(true);
+    EXPECT_EQ(textsOf(entries), QStringList({QStringLiteral("a"), QStringLiteral("b")}));
+}
+
+RC_GTEST_PROP(ListEntries, AddedOneByOneStandAsThoseFilledAtOnce, ()) {
+    const auto letters = *rc::gen::container<std::vector<std::string>>(
+        rc::gen::container<std::string>(rc::gen::element('a', 'A', 'b', ',', ' ', '*')));
+    ListEntries added;
+    added.setSorted(true);
+    std::vector<ListEntry> all;
+    for (const std::string& text : letters) {
+        add(added, QString::fromStdString(text));
+        all.push_back({QString::fromStdString(text)});
+    }
+    RC_ASSERT(textsOf(added) == textsOf(sortedEntries(all)));
+    for (int i = 1; i < added.count(); ++i)
+        RC_ASSERT(std::is_lteq(compareTexts(added.text(i - 1), added.text(i))));
+}

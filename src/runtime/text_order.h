@@ -1,8 +1,9 @@
 // The one order of texts: sorted lists, the store's ORDER BY, searches and grids all follow it.
 //
-// Texts are compared folded first (case folded, decomposed, accents dropped), code point by code
-// point, then with their accents. So abe < Émile < Zed, "Smith" < "Smith, Anna" < "Smithers",
-// "A" < "a*" < "Aa". Texts that differ in case alone are equal. No locale has a say in it, so the
+// Texts are compared folded first (case folded, decomposed, accents dropped, ß spelled as ss), code
+// point by code point, then with their accents. So abe < Émile < Zed, Strasse < Straße < Straub,
+// "Smith" < "Smith, Anna" < "Smithers", "A" < "a*" < "Aa". Texts that differ in case alone are
+// equal, and so are the same characters composed and decomposed. No locale has a say in it, so the
 // order is the same on every machine.
 #pragma once
 

@@ -32,8 +32,7 @@ std::vector<QString> fieldNames(const SQLite::Statement& rows) {
 }
 
 RowId readAll(SQLite::Statement& rows, RowTable& table) {
-    while (rows.executeStep())
-        table.append(rows);
+    table.appendAll(rows);
     return table.rowCount();
 }
 

@@ -2,6 +2,7 @@
 #include "controls/list_entries.h"
 
 #include <algorithm>
+#include <compare>
 #include <iterator>
 #include <utility>
 
@@ -34,7 +35,7 @@ std::vector<SortItem> inOrder(const std::vector<ListEntry>& entries, std::size_t
         if (a.beginning != b.beginning)
             return a.beginning < b.beginning;
         const auto order = keys[a.place - first] <=> keys[b.place - first];
-        return order != 0 ? order < 0 : a.place < b.place;
+        return std::is_neq(order) ? std::is_lt(order) : a.place < b.place;
     });
     return items;
 }

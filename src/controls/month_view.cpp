@@ -9,9 +9,3 @@ MonthView::MonthView(QWidget* parent) : QuietCalendar(parent), DateControl(host(
     setSelectedDate(toQDate(Value()));
     connect(this, &QCalendarWidget::selectionChanged, this, [this] { shows(selectedDate()); });
 }
-
-// The page of the value's month comes back also where the value has not changed.
-void MonthView::showValue(QDate value) {
-    setSelectedDate(value);
-    showSelectedDate();
-}

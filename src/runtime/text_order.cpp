@@ -3,9 +3,11 @@
 
 #include <QChar>
 #include <QList>
+#include <QtEndian>
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 namespace {
 
@@ -144,6 +146,15 @@ TextKey::TextKey(const QString& text) {
     const QByteArray accented = folding.toUtf8();
     if (accented != folded_)
         accented_ = accented;
+}
+
+TextKey::Beginning TextKey::beginning() const {
+    Beginning numbers{};
+    std::memcpy(numbers.data(), folded_.constData(),
+                std::min(static_cast<std::size_t>(folded_.size()), sizeof(numbers)));
+    for (std::uint64_t& number : numbers)
+        number = qFromBigEndian(number);
+    return numbers;
 }
 
 std::weak_ordering operator<=>(const TextKey& a, const TextKey& b) {

@@ -5,7 +5,8 @@
 #include "runtime/qt_dates.h"
 
 MonthView::MonthView(QWidget* parent) : QuietCalendar(parent), DateControl(host().today()) {
-    setDateRange(toQDate(kEarliest), toQDate(kLatest));
+    setDateRange(toQDate(modCycles::kEarliestCalendarDate),
+                 toQDate(modCycles::kLatestCalendarDate));
     setSelectedDate(toQDate(Value()));
     connect(this, &QCalendarWidget::selectionChanged, this, [this] { shows(selectedDate()); });
 }

@@ -12,6 +12,7 @@ namespace {
 // The fields of a statement's rows; they tell the values of the row on which it stands.
 std::vector<SQLite::Column> fieldsOf(const SQLite::Statement& rows) {
     std::vector<SQLite::Column> fields;
+    fields.reserve(static_cast<std::size_t>(rows.getColumnCount()));
     for (int field = 0; field < rows.getColumnCount(); ++field)
         fields.push_back(rows.getColumn(field));
     return fields;

@@ -1,4 +1,5 @@
 // The record set as it is written: pending values, new rows, batches and deletes.
+#include <SQLiteCpp/Database.h>
 #include <gtest/gtest.h>
 
 #include "cycles/calendar.h"
@@ -344,11 +345,11 @@ TEST_F(RecordsetWriteTest, NamesWhatARejectedRowLacks) {
 
 TEST_F(RecordsetWriteTest, KeepsWhatIsPendingWhileTheFileIsLocked) {
     Connection other = openPersonDatabase();
-    Recordset blocking(other, QStringLiteral("BEGIN IMMEDIATE"), adLockReadOnly);
+    other.database().exec("BEGIN IMMEDIATE");
     set_.Collect(u"Name", kZed);
     EXPECT_EQ(errorOf([&] { set_.UpdateBatch(adAffectAll); }), 70);
     EXPECT_EQ(name(), kZed);
-    Recordset(other, QStringLiteral("COMMIT"), adLockReadOnly);
+    other.database().exec("COMMIT");
     set_.UpdateBatch(adAffectAll);
     EXPECT_EQ(storedNames(), u"Zed Berg Curie");
 }

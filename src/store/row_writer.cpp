@@ -75,7 +75,7 @@ std::int64_t RowWriter::run(const std::string& sql, const Changes& values, const
     if (!statement.executeStep())
         throw RuntimeError(ErrorNumber::RowNotLocated);
     const std::int64_t key = statement.getColumn(0).getInt64();
-    statement.executeStep();  // the constraints between tables are checked at the end
+    statement.executeStep();  // outside a transaction the end of the statement commits, or fails
     return key;
 }
 

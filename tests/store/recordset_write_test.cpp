@@ -354,6 +354,17 @@ TEST_F(RecordsetWriteTest, KeepsWhatIsPendingWhileTheFileIsLocked) {
     EXPECT_EQ(storedNames(), u"Zed Berg Curie");
 }
 
+TEST_F(RecordsetWriteTest, KeepsARowThatCannotBeDeletedWhileAnotherReads) {
+    Connection other = openPersonDatabase();
+    other.database().exec("BEGIN; SELECT * FROM Data");
+    EXPECT_EQ(errorOf([&] { set_.Delete(adAffectCurrent); }), 70);
+    other.database().exec("COMMIT");
+    EXPECT_EQ(name(), kAdler);
+    EXPECT_EQ(storedNames(), u"Adler Berg Curie");
+    set_.Delete(adAffectCurrent);
+    EXPECT_EQ(storedNames(), u"Berg Curie");
+}
+
 TEST_F(RecordsetWriteTest, RefusesEveryChangeOfAReadOnlySet) {
     Recordset readOnly(connection_, statements::allPeople(), adLockReadOnly);
     EXPECT_EQ(errorOf([&] { readOnly.AddNew(); }), 3251);

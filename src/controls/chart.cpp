@@ -56,24 +56,24 @@ void Chart::setLegendFont(const QString& family, int points) {
     update();
 }
 
-ChartSeries& Chart::series(int number) {
-    if (number < 1 || number > kMostSeries)
+ChartSeries& Chart::seriesAt(int series) {
+    if (series < 1 || series > kMostSeries)
         throw RuntimeError(ErrorNumber::InvalidPropertyArrayIndex);
-    return content_.series[static_cast<std::size_t>(number - 1)];
+    return content_.series[static_cast<std::size_t>(series - 1)];
 }
 
-void Chart::setLegendText(int number, const QString& text) {
-    series(number).legendText = text;
+void Chart::setLegendText(int series, const QString& text) {
+    seriesAt(series).legendText = text;
     update();
 }
 
-void Chart::setSeriesColour(int number, CycleColour colour) {
-    series(number).colour = colour;
+void Chart::setSeriesColour(int series, CycleColour colour) {
+    seriesAt(series).colour = colour;
     update();
 }
 
-void Chart::setSeriesPattern(int number, PenPattern pattern) {
-    series(number).pattern = pattern;
+void Chart::setSeriesPattern(int series, PenPattern pattern) {
+    seriesAt(series).pattern = pattern;
     update();
 }
 

@@ -60,7 +60,7 @@ class Chart final : public QWidget {
     void mouseMoveEvent(QMouseEvent* event) override;
 
   private:
-    ChartSeries& series(int number);
+    ChartSeries& seriesAt(int series);
 
     ChartContent content_;
 };

@@ -112,6 +112,7 @@ std::vector<ChartLegendEntry> legendBeside(const ChartContent& content,
     const double step = measure.lineHeight + kGap;
     const double top = content.plotArea.center().y() - (entries * step - kGap) / 2;
     std::vector<ChartLegendEntry> legend;
+    legend.reserve(content.table.columns.size());
     for (int series = 0; series < entries; ++series)
         legend.push_back(
             legendEntry(content, measure, series,

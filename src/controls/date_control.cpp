@@ -22,7 +22,7 @@ void DateControl::setValue(Date value) {
 
 void DateControl::setMinDate(Date minDate) {
     const Date day = withoutTime(minDate);
-    if (day < kEarliest)
+    if (day < modCycles::kEarliestCalendarDate)
         throw RuntimeError(ErrorNumber::InvalidPropertyValue);
     minDate_ = day;
     value_ = std::max(value_, minDate_);

@@ -11,9 +11,6 @@
 // value raises it. Neither fires an event: that the day was changed is told of the user alone.
 class DateControl {
   public:
-    static constexpr Date kEarliest = modCycles::DateSerial(1753, 1, 1);
-    static constexpr Date kLatest = modCycles::DateSerial(9999, 12, 31);
-
     Date Value() const { return value_; }
     void setValue(Date value);
 
@@ -41,5 +38,5 @@ class DateControl {
 
   private:
     Date value_;
-    Date minDate_ = kEarliest;
+    Date minDate_ = modCycles::kEarliestCalendarDate;
 };

@@ -8,7 +8,8 @@
 DatePicker::DatePicker(QWidget* parent) : QDateEdit(parent), DateControl(host().today()) {
     setLocale(host().locale());
     setDisplayFormat(QStringLiteral("d MMMM yyyy"));
-    setDateRange(toQDate(kEarliest), toQDate(kLatest));
+    setDateRange(toQDate(modCycles::kEarliestCalendarDate),
+                 toQDate(modCycles::kLatestCalendarDate));
     setDate(toQDate(Value()));
     setCalendarPopup(true);
     setCalendarWidget(new QuietCalendar(this));

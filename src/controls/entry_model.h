@@ -17,7 +17,7 @@ class EntryModel final : public QAbstractListModel {
 
     void insert(int place, const QString& text);
     void remove(int index);
-    void setItemData(int index, Long value) { entries_.setItemData(index, value); }
+    void changeItemData(int index, Long value) { entries_.setItemData(index, value); }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

@@ -3,6 +3,7 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <utility>
 
 namespace {
@@ -37,24 +38,24 @@ void ListBox::selectionChanged(const QItemSelection& selected, const QItemSelect
     if (isChanging() || selected.isEmpty())
         return;
     follow(selected.indexes().constFirst().row());
-    if (!mouseIsDown_)
+    if (!userActs_)
         fireClick();
 }
 
-// One entry is selected or none, and no key held down takes the selection away again.
-QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex& index,
+// No key that is held down takes the selection away.
+QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex&,
                                                               const QEvent*) const {
-    return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+    return QItemSelectionModel::ClearAndSelect;
 }
 
 void ListBox::mousePressEvent(QMouseEvent* event) {
-    mouseIsDown_ = event->button() == Qt::LeftButton && indexAt(event->pos()).isValid();
+    userActs_ = event->button() == Qt::LeftButton && indexAt(event->pos()).isValid();
     QListView::mousePressEvent(event);
 }
 
 void ListBox::mouseReleaseEvent(QMouseEvent* event) {
     QListView::mouseReleaseEvent(event);
-    if (std::exchange(mouseIsDown_, false) && ListIndex() >= 0)
+    if (std::exchange(userActs_, false) && ListIndex() >= 0)
         fireClick();
 }
 
@@ -64,9 +65,16 @@ void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
         Q_EMIT DblClick();
 }
 
+// Click comes when Qt's views have done with the key, as its routine may fill the list anew.
 void ListBox::keyPressEvent(QKeyEvent* event) {
-    if (ListIndex() < 0 && currentIndex().isValid() && stepsToNextEntry(*event))
-        setCurrentIndex(currentIndex());
-    else
-        QListView::keyPressEvent(event);
+    const int before = ListIndex();
+    {
+        const QScopedValueRollback acting(userActs_, true);
+        if (before < 0 && currentIndex().isValid() && stepsToNextEntry(*event))
+            setCurrentIndex(currentIndex());
+        else
+            QListView::keyPressEvent(event);
+    }
+    if (ListIndex() != before)
+        fireClick();
 }

@@ -33,5 +33,7 @@ class ListBox final : public QListView, public ListControl {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    bool mouseIsDown_ = false;  // the button went down on an entry, and has not come up
+    // The user is selecting, by a key or by a button that went down on an entry; Click comes at the
+    // end of it.
+    bool userActs_ = false;
 };

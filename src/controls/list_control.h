@@ -30,7 +30,7 @@ class ListControl : public ItemList {
     // The text of an entry. Raises 381 if there is no such entry, as ItemData does.
     QString List(int index) const { return entries().text(index); }
     Long ItemData(int index) const { return entries().itemData(index); }
-    void setItemData(int index, Long value) { model_.setItemData(index, value); }
+    void setItemData(int index, Long value) { model_.changeItemData(index, value); }
 
     void Clear() { fill({}); }
 

@@ -2,7 +2,8 @@
 #include "controls/list_entries.h"
 
 #include <algorithm>
-#include <numeric>
+#include <compare>
+#include <iterator>
 #include <utility>
 
 #include "runtime/errors.h"
@@ -10,24 +11,33 @@
 
 namespace {
 
-// The order in which the entries belong, as their present places.
-std::vector<int> sortedPlaces(const std::vector<ListEntry>& entries) {
-    std::vector<TextKey> keys;
-    keys.reserve(entries.size());
-    for (const ListEntry& entry : entries)
-        keys.emplace_back(entry.text);
+bool leads(const ListEntry& entry) {
+    return entry.leads;
+}
 
-    const auto comesBefore = [&](int a, int b) {
-        const auto placeA = static_cast<std::size_t>(a);
-        const auto placeB = static_cast<std::size_t>(b);
-        if (entries[placeA].leads != entries[placeB].leads)
-            return entries[placeA].leads;
-        return keys[placeA] < keys[placeB];
-    };
-    std::vector<int> places(entries.size());
-    std::iota(places.begin(), places.end(), 0);
-    std::stable_sort(places.begin(), places.end(), comesBefore);
-    return places;
+// An entry in a sort. Most comparisons are decided by the beginning, without a look at the key.
+struct SortItem {
+    TextKey::Beginning beginning;
+    std::size_t place;
+};
+
+// The places of the entries from `first` on, in the order in which these entries belong.
+std::vector<SortItem> inOrder(const std::vector<ListEntry>& entries, std::size_t first) {
+    std::vector<TextKey> keys;
+    std::vector<SortItem> items;
+    keys.reserve(entries.size());
+    items.reserve(entries.size());
+    for (std::size_t place = first; place < entries.size(); ++place) {
+        keys.emplace_back(entries[place].text);
+        items.push_back({keys.back().beginning(), place});
+    }
+    std::sort(items.begin(), items.end(), [&](const SortItem& a, const SortItem& b) {
+        if (a.beginning != b.beginning)
+            return a.beginning < b.beginning;
+        const auto order = keys[a.place - first] <=> keys[b.place - first];
+        return std::is_neq(order) ? std::is_lt(order) : a.place < b.place;
+    });
+    return items;
 }
 
 }  // namespace
@@ -47,18 +57,20 @@ void ListEntries::fill(std::vector<ListEntry> entries) {
 }
 
 void ListEntries::sort() {
-    std::vector<ListEntry> sorted;
+    const auto followers = std::stable_partition(entries_.begin(), entries_.end(), leads);
+    std::vector<ListEntry> sorted(std::make_move_iterator(entries_.begin()),
+                                  std::make_move_iterator(followers));
+    const std::vector<SortItem> items = inOrder(entries_, sorted.size());
     sorted.reserve(entries_.size());
-    for (const int place : sortedPlaces(entries_))
-        sorted.push_back(std::move(entries_[static_cast<std::size_t>(place)]));
+    for (const SortItem& item : items)
+        sorted.push_back(std::move(entries_[item.place]));
     entries_ = std::move(sorted);
 }
 
 int ListEntries::placeOf(const QString& text) const {
     if (!sorted_)
         return count();
-    const auto followers = std::find_if_not(entries_.begin(), entries_.end(),
-                                            [](const ListEntry& entry) { return entry.leads; });
+    const auto followers = std::find_if_not(entries_.begin(), entries_.end(), leads);
     const auto place = std::upper_bound(
         followers, entries_.end(), TextKey(text),
         [](const TextKey& key, const ListEntry& entry) { return key < TextKey(entry.text); });

@@ -16,7 +16,7 @@ class MonthView final : public QuietCalendar, public DateControl {
     void SelChange();
 
   protected:
-    void showValue(QDate value) override;
+    void showValue(QDate value) override { setSelectedDate(value); }
     void showMinDate(QDate minDate) override { setMinimumDate(minDate); }
     void fireChange() override { Q_EMIT SelChange(); }
 };

@@ -54,7 +54,7 @@ QString errorText(ErrorNumber number) {
                 "Item cannot be found in the collection corresponding to the requested name or "
                 "ordinal.");
         case ErrorNumber::ObjectClosed:
-            return QStringLiteral("Operation is not allowed when the object is closed");
+            return QStringLiteral("Operation is not allowed when the object is closed.");
         case ErrorNumber::IntegrityViolation:
             return QStringLiteral(
                 "Data value conflicts with the integrity constraints of the field");

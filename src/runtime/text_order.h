@@ -9,13 +9,20 @@
 
 #include <QByteArrayView>
 #include <QString>
+#include <array>
 #include <compare>
+#include <cstdint>
 
 // What a text is sorted by; made once where a text is compared often.
 class TextKey {
   public:
     TextKey() = default;
     explicit TextKey(const QString& text);
+
+    // The beginning of the key as two numbers: where those of two keys differ, they are in the
+    // order of the keys. A sort decides most comparisons by them.
+    using Beginning = std::array<std::uint64_t, 2>;
+    Beginning beginning() const;
 
     friend std::weak_ordering operator<=>(const TextKey& a, const TextKey& b);
     friend bool operator==(const TextKey& a, const TextKey& b) { return (a <=> b) == 0; }

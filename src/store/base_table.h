@@ -13,6 +13,8 @@ struct BaseTable {
     std::string name;
     std::vector<std::string> columns;  // the column of each field
     int keyField;                      // the field that holds the table's generated key
+
+    const std::string& column(int field) const { return columns[static_cast<std::size_t>(field)]; }
 };
 
 // The one table whose columns, the key among them, a statement returns; nothing if the statement

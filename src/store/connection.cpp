@@ -16,7 +16,7 @@ constexpr int kBusyTimeoutMilliseconds = 2000;
 int compareForSqlite(void*, int lengthA, const void* a, int lengthB, const void* b) {
     const auto order = compareUtf8(QByteArrayView(static_cast<const char*>(a), lengthA),
                                    QByteArrayView(static_cast<const char*>(b), lengthB));
-    return order < 0 ? -1 : order > 0 ? 1 : 0;
+    return std::is_lt(order) ? -1 : std::is_gt(order) ? 1 : 0;
 }
 
 void enforceForeignKeys(SQLite::Database& database) {

@@ -63,17 +63,17 @@ bool Criterion::isFulfilledBy(QByteArrayView text) const {
 bool Criterion::accepts(std::partial_ordering order) const {
     switch (comparison_) {
         case Comparison::Equal:
-            return order == 0;
+            return std::is_eq(order);
         case Comparison::NotEqual:
-            return order != 0;
+            return std::is_neq(order);
         case Comparison::Less:
-            return order < 0;
+            return std::is_lt(order);
         case Comparison::LessOrEqual:
-            return order <= 0;
+            return std::is_lteq(order);
         case Comparison::Greater:
-            return order > 0;
+            return std::is_gt(order);
         case Comparison::GreaterOrEqual:
-            return order >= 0;
+            return std::is_gteq(order);
     }
     Q_UNREACHABLE();
 }

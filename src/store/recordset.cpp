@@ -26,14 +26,14 @@ struct PendingRow {
 
 std::vector<QString> fieldNames(const SQLite::Statement& rows) {
     std::vector<QString> names;
+    names.reserve(static_cast<std::size_t>(rows.getColumnCount()));
     for (int field = 0; field < rows.getColumnCount(); ++field)
         names.push_back(QString::fromUtf8(rows.getColumnName(field)));
     return names;
 }
 
 RowId readAll(SQLite::Statement& rows, RowTable& table) {
-    while (rows.executeStep())
-        table.append(rows);
+    table.appendAll(rows);
     return table.rowCount();
 }
 
@@ -131,6 +131,7 @@ void Recordset::Contents::write(const std::vector<RowId>& rows) {
     raisingStoreErrors(path, [&] {
         SQLite::Transaction transaction(database, SQLite::TransactionBehavior::IMMEDIATE);
         std::vector<const Cell*> written;
+        written.reserve(rows.size());
         for (const RowId row : rows)
             written.push_back(writeRow(row));
         transaction.commit();

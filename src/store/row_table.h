@@ -1,6 +1,7 @@
 // The rows of a record set in memory.
 #pragma once
 
+#include <SQLiteCpp/Column.h>
 #include <SQLiteCpp/Statement.h>
 
 #include <cstdint>
@@ -35,14 +36,14 @@ class RowTable {
   public:
     explicit RowTable(int fieldCount) : fieldCount_(fieldCount) {}
 
-    // Copies the row on which a statement stands, which is in no place of the table as yet.
-    const Cell* keep(const SQLite::Statement& row);
-
-    RowId append(const Cell* row);
-    RowId append(const SQLite::Statement& row) { return append(keep(row)); }
+    // Adds every row that a statement returns.
+    void appendAll(SQLite::Statement& rows);
 
     // Adds a row whose values are all Null.
     RowId appendNulls();
+
+    // Copies the row on which a statement stands, which is in no place of the table as yet.
+    const Cell* keep(const SQLite::Statement& row);
 
     // Puts a kept row in the place of another.
     void replace(RowId id, const Cell* row) { rows_[indexOf(id)] = row; }
@@ -54,8 +55,10 @@ class RowTable {
 
   private:
     static std::size_t indexOf(RowId id) { return static_cast<std::size_t>(id - 1); }
+    RowId append(const Cell* row);
+    const Cell* keep(const std::vector<SQLite::Column>& fields);
     Cell* newRow();
-    Cell cellOf(const SQLite::Statement& row, int field);
+    Cell cellOf(const SQLite::Column& field);
 
     int fieldCount_;
     std::pmr::monotonic_buffer_resource blocks_;

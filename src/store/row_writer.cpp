@@ -43,7 +43,7 @@ RowWriter::RowWriter(SQLite::Database& database, BaseTable base, RowTable& table
 }
 
 const Cell* RowWriter::insert(const Changes& values) {
-    const auto column = [this](const auto& change) { return base_.columns[change.first]; };
+    const auto column = [this](const auto& change) { return base_.column(change.first); };
     const auto mark = [](const auto&) { return std::string("?"); };
     const std::string sql = values.empty() ? " DEFAULT VALUES"
                                            : " (" + joined(values, ", ", column) + ") VALUES (" +
@@ -53,7 +53,7 @@ const Cell* RowWriter::insert(const Changes& values) {
 
 const Cell* RowWriter::update(const Cell* asRead, const Changes& changes) {
     const auto assignment = [this](const auto& change) {
-        return base_.columns[change.first] + " = ?";
+        return base_.column(change.first) + " = ?";
     };
     return stored(
         run("UPDATE " + base_.name + " SET " + joined(changes, ", ", assignment) + asReadClause_,
@@ -66,7 +66,7 @@ void RowWriter::remove(const Cell* asRead) {
 
 // Sends a statement that changes one row, and returns the row's key.
 std::int64_t RowWriter::run(const std::string& sql, const Changes& values, const Cell* asRead) {
-    SQLite::Statement statement(database_, sql + " RETURNING " + keyColumn());
+    SQLite::Statement statement(database_, sql + " RETURNING " + base_.column(base_.keyField));
     int place = 0;
     for (const auto& [field, value] : values)
         bindValue(statement, ++place, value);
@@ -75,19 +75,16 @@ std::int64_t RowWriter::run(const std::string& sql, const Changes& values, const
     if (!statement.executeStep())
         throw RuntimeError(ErrorNumber::RowNotLocated);
     const std::int64_t key = statement.getColumn(0).getInt64();
-    statement.executeStep();  // the constraints between tables are checked at the end
+    statement.executeStep();  // outside a transaction the end of the statement commits, or fails
     return key;
 }
 
 // Reads the row anew: what RETURNING would tell is not converted to the columns' types.
 const Cell* RowWriter::stored(std::int64_t key) {
     SQLite::Statement row(database_, "SELECT " + joined(base_.columns, ", ", std::identity()) +
-                                         " FROM " + base_.name + " WHERE " + keyColumn() + " = ?");
+                                         " FROM " + base_.name + " WHERE " +
+                                         base_.column(base_.keyField) + " = ?");
     row.bind(1, key);
     row.executeStep();
     return table_.keep(row);
-}
-
-const std::string& RowWriter::keyColumn() const {
-    return base_.columns[static_cast<std::size_t>(base_.keyField)];
 }

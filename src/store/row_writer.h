@@ -24,7 +24,6 @@ class RowWriter {
   private:
     std::int64_t run(const std::string& sql, const Changes& values, const Cell* asRead);
     const Cell* stored(std::int64_t key);
-    const std::string& keyColumn() const;
 
     SQLite::Database& database_;
     RowTable& table_;

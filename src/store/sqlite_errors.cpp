@@ -32,7 +32,7 @@ ErrorNumber numberOf(int resultCode) {
 
 // SQLite's own words, but for those that people meet when they enter data.
 QString causeOf(const SQLite::Exception& failure) {
-    const QString message = QString::fromUtf8(failure.what());
+    QString message = QString::fromUtf8(failure.what());
     switch (failure.getExtendedErrorCode()) {
         case SQLITE_CONSTRAINT_NOTNULL:
             return message.section(QStringLiteral(": "), 1) + QStringLiteral(" has no value");

@@ -124,10 +124,27 @@ TEST(ChartLayout, LeavesShortRowLabelsLevel) {
     expectNoOverlap(content);
 }
 
-TEST(ChartLayout, LabelsFewerRowsWhereTurnedLabelsDoNotFitEither) {
-    const ChartContent content = mainChart(QStringLiteral("14 September 2000"));
+TEST(ChartLayout, LabelsFewerRowsWhereTurnedLabelsWouldReachIntoTheLegend) {
+    ChartContent content = mainChart();
+    content.plotArea.setBottom(2700);
+    EXPECT_EQ(layOut(content).rowLabelAngle, 0);
+    EXPECT_EQ(labelledRows(layOut(content)), std::vector({0, 10, 20, 30}));
+    expectNoOverlap(content);
+}
+
+TEST(ChartLayout, LabelsFewerRowsWhereTurnedLabelsWouldReachOutOfTheChart) {
+    ChartContent content = mainChart(QStringLiteral("14 September 2000"));
+    content.plotArea.setBottom(1500);
     EXPECT_EQ(layOut(content).rowLabelAngle, 0);
     EXPECT_EQ(labelledRows(layOut(content)), std::vector({0, 15, 30}));
+    expectNoOverlap(content);
+}
+
+TEST(ChartLayout, LabelsFewerRowsWhereTurnedLabelsWouldTouchEachOther) {
+    ChartContent content = mainChart();
+    content.table.rowLabels = QStringList(150, QStringLiteral("14/03/2000"));
+    EXPECT_EQ(layOut(content).rowLabelAngle, 0);
+    EXPECT_EQ(labelledRows(layOut(content)), std::vector({0, 40, 80, 120}));
     expectNoOverlap(content);
 }
 

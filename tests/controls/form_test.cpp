@@ -10,8 +10,8 @@
 #include <QVBoxLayout>
 
 #include "runtime/errors.h"
-#include "support/widget_driver.h"
 #include "support/recording_host.h"
+#include "support/widget_driver.h"
 
 namespace {
 

@@ -59,6 +59,29 @@ TEST_F(ListBoxTest, FiresClickOnceForAMouseThatIsDraggedOverSeveralEntries) {
     EXPECT_EQ(clicks_.fired(), 1);
 }
 
+TEST_F(ListBoxTest, KeepsItsSelectionWhenTheMouseIsDraggedOffTheEntries) {
+    dragMouse(*list_.viewport(), placeOf(1), placeBelowTheEntries());
+    EXPECT_EQ(list_.ListIndex(), 1);
+    EXPECT_EQ(list_.selectionModel()->selectedIndexes().size(), 1);
+    EXPECT_EQ(clicks_.fired(), 1);
+}
+
+TEST_F(ListBoxTest, FiresNothingForAClickWhoseEntryGoesWhileTheMouseIsDown) {
+    pressMouse(*list_.viewport(), placeOf(1));
+    list_.fill({{QStringLiteral("Adler")}, {QStringLiteral("Curie")}});
+    releaseMouse(*list_.viewport(), placeOf(1));
+    EXPECT_EQ(list_.ListIndex(), -1);
+    EXPECT_EQ(clicks_.fired(), 0);
+}
+
+TEST_F(ListBoxTest, KeepsItsSelectionWhateverKeyIsHeldWhileItIsClicked) {
+    list_.setListIndex(1);
+    click(*list_.viewport(), placeOf(1), Qt::ControlModifier);
+    EXPECT_EQ(list_.ListIndex(), 1);
+    EXPECT_EQ(list_.selectionModel()->selectedIndexes().size(), 1);
+    EXPECT_EQ(clicks_.fired(), 2);
+}
+
 TEST_F(ListBoxTest, FiresClickAndThenDblClickForADoubleClick) {
     doubleClick(*list_.viewport(), placeOf(2));
     EXPECT_EQ(list_.ListIndex(), 2);
@@ -90,6 +113,19 @@ TEST_F(ListBoxTest, SelectsTheFirstEntryByAnArrowKeyWhereNoneIsSelected) {
         EXPECT_EQ(list_.ListIndex(), 0) << key;
     }
     EXPECT_EQ(clicks_.fired(), 3);
+}
+
+TEST_F(ListBoxTest, CanBeFilledAnewWithinTheClickOfAKeyOrTheMouse) {
+    QObject::connect(&list_, &ListBox::Click, [&] {
+        list_.fill({{QStringLiteral("Adler")}, {QStringLiteral("Curie")}});
+    });
+    pressKey(list_, Qt::Key_End);
+    EXPECT_EQ(list_.ListIndex(), -1);
+    EXPECT_EQ(list_.currentIndex().row(), 0);
+    click(*list_.viewport(), placeOf(1));
+    EXPECT_EQ(list_.ListIndex(), -1);
+    EXPECT_EQ(list_.currentIndex().row(), 0);
+    EXPECT_EQ(clicks_.fired(), 2);
 }
 
 TEST_F(ListBoxTest, SelectsAnEntryByItsFirstLetter) {

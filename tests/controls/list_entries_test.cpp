@@ -62,12 +62,13 @@ TEST(ListEntries, KeepTheirItemDataThroughTheSort) {
 
 TEST(ListEntries, ThatLeadStandFirstWhateverTheirText) {
     ListEntries entries = sortedEntries(
-        {{QStringLiteral("!first"), 7}, {QStringLiteral("*"), 0, true}, {QStringLiteral(""), 8}});
-    EXPECT_EQ(entries.text(0), QStringLiteral("*"));
+        {{QStringLiteral("b"), 7}, {QStringLiteral("z"), 0, true}, {QStringLiteral("a"), 8}});
     EXPECT_EQ(entries.itemData(0), 0);
-    EXPECT_EQ(add(entries, QStringLiteral("")), 2);
-    EXPECT_EQ(textsOf(entries), QStringList({QStringLiteral("*"), QString(), QStringLiteral(""),
-                                             QStringLiteral("!first")}));
+    EXPECT_EQ(add(entries, QStringLiteral("A")), 2);
+    EXPECT_EQ(add(entries, QStringLiteral("*")), 1);
+    EXPECT_EQ(textsOf(entries),
+              QStringList({QStringLiteral("z"), QStringLiteral("*"), QStringLiteral("a"),
+                           QStringLiteral("A"), QStringLiteral("b")}));
 }
 
 TEST(ListEntries, OfEqualTextStandInTheOrderInWhichTheyCame) {
@@ -122,9 +123,23 @@ TEST(ListEntries, ThatAreThereGetIntoOrderWhenTheListBecomesSorted) {
     EXPECT_EQ(textsOf(entries), QStringList({QStringLiteral("a"), QStringLiteral("b")}));
 }
 
+TEST(ListEntries, OfLongTextsThatBeginAlikeStandInTheOrderOfTheirEnds) {
+    const QString beginning = QStringLiteral("Featherstonehaugh, ");
+    const ListEntries entries = sortedEntries({{beginning + QStringLiteral("Zo\u00eb")},
+                                               {beginning + QStringLiteral("Zoe")},
+                                               {beginning + QStringLiteral("\u00c9mile")},
+                                               {beginning.chopped(1)},
+                                               {beginning.toUpper() + QStringLiteral("ANNA")}});
+    EXPECT_EQ(
+        textsOf(entries),
+        QStringList({beginning.chopped(1), beginning.toUpper() + QStringLiteral("ANNA"),
+                     beginning + QStringLiteral("\u00c9mile"), beginning + QStringLiteral("Zoe"),
+                     beginning + QStringLiteral("Zo\u00eb")}));
+}
+
 RC_GTEST_PROP(ListEntries, AddedOneByOneStandAsThoseFilledAtOnce, ()) {
     const auto letters = *rc::gen::container<std::vector<std::string>>(
-        rc::gen::container<std::string>(rc::gen::element('a', 'A', 'b', ',', ' ', '*')));
+        rc::gen::container<std::string>(rc::gen::element('a', 'A', 'b', ',', ' ', '*', '\0', '~')));
     ListEntries added;
     added.setSorted(true);
     std::vector<ListEntry> all;

@@ -193,6 +193,22 @@ TEST_F(ConnectionTest, RaisesDiskFullAndLeavesTheStoreAsItWas) {
     EXPECT_EQ(people.Fields(u"Notes").toText().size(), 100'000);
 }
 
+TEST_F(ConnectionTest, UndoesWhatAProcessThatDiedHadHalfWritten) {
+    const QString copy = directory_.path(QStringLiteral("Copy.mdb"));
+    const QString journal = QStringLiteral("-journal");
+    SQLite::Database dying(directory_.people().toStdString(), SQLite::OPEN_READWRITE);
+    dying.exec("PRAGMA cache_size = 1; BEGIN; UPDATE Data SET Name = 'half'");
+    ASSERT_TRUE(QFile::copy(directory_.people() + journal, copy + journal));
+    ASSERT_TRUE(QFile::copy(directory_.people(), copy));
+    ASSERT_TRUE(contents().contains("half")) << "nothing was written yet";
+
+    Connection connection(QStringLiteral("Data Source=%1;").arg(copy));
+    Recordset people(connection, statements::allPeople());
+    EXPECT_EQ(people.RecordCount(), kPeople);
+    people.Find(QStringLiteral("Name = 'half'"));
+    EXPECT_TRUE(people.EndOfFile());
+}
+
 TEST_F(ConnectionTest, RaisesAutomationErrorForATableThatIsNotThere) {
     runSql(directory_.people(), QStringLiteral("DROP TABLE Data"));
     expectError(440, QStringLiteral("Automation error: no such table: Data"), openAndRead);

@@ -97,7 +97,7 @@ class Model {
     }
 
     ModelRow* current() {
-        return !inGap_ && place_ >= 0 && place_ < size() ? &rows_[place_] : nullptr;
+        return !inGap_ && place_ >= 0 && place_ < size() ? &*(rows_.begin() + place_) : nullptr;
     }
 
     int size() const { return static_cast<int>(rows_.size()); }
@@ -128,10 +128,9 @@ class Model {
     }
 
     bool goToId(int id) {
-        for (int place = 0; place < size(); ++place)
-            if (rows_[place].id == id)
-                return goTo(place);
-        return true;
+        const auto row = std::find_if(rows_.begin(), rows_.end(),
+                                      [id](const ModelRow& other) { return other.id == id; });
+        return row == rows_.end() || goTo(static_cast<int>(row - rows_.begin()));
     }
 
     bool move(int rows) {

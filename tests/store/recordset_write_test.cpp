@@ -1,4 +1,5 @@
 // The record set as it is written: pending values, new rows, batches and deletes.
+#include <SQLiteCpp/Database.h>
 #include <gtest/gtest.h>
 
 #include "cycles/calendar.h"
@@ -344,13 +345,24 @@ TEST_F(RecordsetWriteTest, NamesWhatARejectedRowLacks) {
 
 TEST_F(RecordsetWriteTest, KeepsWhatIsPendingWhileTheFileIsLocked) {
     Connection other = openPersonDatabase();
-    Recordset blocking(other, QStringLiteral("BEGIN IMMEDIATE"), adLockReadOnly);
+    other.database().exec("BEGIN IMMEDIATE");
     set_.Collect(u"Name", kZed);
     EXPECT_EQ(errorOf([&] { set_.UpdateBatch(adAffectAll); }), 70);
     EXPECT_EQ(name(), kZed);
-    Recordset(other, QStringLiteral("COMMIT"), adLockReadOnly);
+    other.database().exec("COMMIT");
     set_.UpdateBatch(adAffectAll);
     EXPECT_EQ(storedNames(), u"Zed Berg Curie");
+}
+
+TEST_F(RecordsetWriteTest, KeepsARowThatCannotBeDeletedWhileAnotherReads) {
+    Connection other = openPersonDatabase();
+    other.database().exec("BEGIN; SELECT * FROM Data");
+    EXPECT_EQ(errorOf([&] { set_.Delete(adAffectCurrent); }), 70);
+    other.database().exec("COMMIT");
+    EXPECT_EQ(name(), kAdler);
+    EXPECT_EQ(storedNames(), u"Adler Berg Curie");
+    set_.Delete(adAffectCurrent);
+    EXPECT_EQ(storedNames(), u"Berg Curie");
 }
 
 TEST_F(RecordsetWriteTest, RefusesEveryChangeOfAReadOnlySet) {

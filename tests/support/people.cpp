@@ -54,20 +54,24 @@ class PersonInserter {
 
 // The generator's numbers are the same everywhere; the distributions of the standard library are
 // not, so the remainder is taken.
-Long upTo(std::mt19937& random, std::size_t limit) {
-    return static_cast<Long>(random() % limit);
+Long upTo(std::mt19937& random, Long limit) {
+    return static_cast<Long>(random() % static_cast<std::mt19937::result_type>(limit));
+}
+
+template <std::size_t size>
+QString oneOf(const std::array<const char*, size>& texts, std::mt19937& random) {
+    return QString::fromUtf8(texts[random() % size]);
 }
 
 PersonRow randomPerson(std::mt19937& random, Long categories) {
     constexpr Long kBirthDays = 45000;  // from 1900 to 2023
     PersonRow person;
-    person.name = QString::fromUtf8(kNames[upTo(random, kNames.size())]) +
-                  QString::number(upTo(random, 1000));
+    person.name = oneOf(kNames, random) + QString::number(upTo(random, 1000));
     if (upTo(random, 10) != 0)
-        person.firstName = QString::fromUtf8(kFirstNames[upTo(random, kFirstNames.size())]);
+        person.firstName = oneOf(kFirstNames, random);
     person.birthdate = Value(Date(1.0 + upTo(random, kBirthDays)));
     person.isFemale = upTo(random, 2) == 1;
-    person.catId = 1 + upTo(random, static_cast<std::size_t>(categories));
+    person.catId = 1 + upTo(random, categories);
     if (upTo(random, 4) == 0)
         person.notes = QStringLiteral("A note on %1, who likes walks").arg(person.name);
     return person;

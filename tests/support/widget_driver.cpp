@@ -13,8 +13,8 @@ std::string namesBelow(const QWidget& root) {
     return names;
 }
 
-void click(QWidget& widget, QPoint place) {
-    QTest::mouseClick(&widget, Qt::LeftButton, {}, place);
+void click(QWidget& widget, QPoint place, Qt::KeyboardModifiers modifiers) {
+    QTest::mouseClick(&widget, Qt::LeftButton, modifiers, place);
 }
 
 void click(QWidget& widget) {
@@ -27,12 +27,20 @@ void doubleClick(QWidget& widget, QPoint place) {
     QTest::mouseDClick(&widget, Qt::LeftButton, {}, place);
 }
 
+void pressMouse(QWidget& widget, QPoint place) {
+    QTest::mousePress(&widget, Qt::LeftButton, {}, place);
+}
+
+void releaseMouse(QWidget& widget, QPoint place) {
+    QTest::mouseRelease(&widget, Qt::LeftButton, {}, place);
+}
+
 void dragMouse(QWidget& widget, QPoint from, QPoint to) {
-    QTest::mousePress(&widget, Qt::LeftButton, {}, from);
+    pressMouse(widget, from);
     QMouseEvent move(QEvent::MouseMove, to, widget.mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
                      Qt::NoModifier);
     QCoreApplication::sendEvent(&widget, &move);
-    QTest::mouseRelease(&widget, Qt::LeftButton, {}, to);
+    releaseMouse(widget, to);
 }
 
 void moveMouse(QWidget& widget, QPoint place) {

@@ -19,9 +19,11 @@ Widget& child(const QWidget& root, const QString& name) {
 }
 
 // Each of these sends the events of one act of the user. The widget must be shown.
-void click(QWidget& widget, QPoint place);
+void click(QWidget& widget, QPoint place, Qt::KeyboardModifiers modifiers = {});
 void click(QWidget& widget);
 void doubleClick(QWidget& widget, QPoint place);
+void pressMouse(QWidget& widget, QPoint place);
+void releaseMouse(QWidget& widget, QPoint place);
 void dragMouse(QWidget& widget, QPoint from, QPoint to);
 void moveMouse(QWidget& widget, QPoint place);
 void pressKey(QWidget& widget, Qt::Key key);

@@ -1,0 +1,20 @@
+// The main window's controls as every form reads them.
+#include "shell/main_controls.h"
+
+#include "controls/list_box.h"
+#include "controls/month_view.h"
+#include "shell/frmMain.h"
+#include "support/main_window.h"
+
+namespace {
+
+class MainControlsTest : public MainWindowTest {};
+
+TEST_F(MainControlsTest, AreThoseOfTheMainWindow) {
+    load();
+    EXPECT_EQ(mainControls().lstMain, &control<ListBox>("lstMain"));
+    EXPECT_EQ(mainControls().dtpSelDate, &control<MonthView>("dtpSelDate"));
+    EXPECT_EQ(mainControls().listCats, &control<ListBox>("listCats"));
+}
+
+}  // namespace

@@ -2,6 +2,7 @@
 #include "shell/start_up.h"
 
 #include <QApplication>
+#include <QDir>
 
 #include "controls/form.h"
 #include "runtime/event.h"
@@ -76,6 +77,13 @@ TEST_F(StartUp, ShowsTheMainWindowWhenTheSplashHasGone) {
     EXPECT_EQ(windows.happened(),
               QStringList({QStringLiteral("frmSplash shown"), QStringLiteral("frmSplash hidden"),
                            QStringLiteral("frmMain shown")}));
+}
+
+TEST_F(StartUp, LeavesNoMarkerBesideTheDatabases) {
+    modCycles::Main();
+    EXPECT_EQ(
+        QDir(directory_.path({})).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+        QStringList({QStringLiteral("Interp.mdb"), QStringLiteral("Ondara2.mdb")}));
 }
 
 TEST_F(StartUp, RefusesASecondInstanceAndLoadsNothing) {

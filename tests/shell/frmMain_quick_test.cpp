@@ -103,6 +103,12 @@ TEST_F(QuickMode, ChartsTheDateThatWasTyped) {
         QStringLiteral("14/03/2000:   Emotional: 62%")));
 }
 
+TEST_F(QuickMode, ShowsTheMonthOfTheBirthDateByItsName) {
+    enter();
+    control<DatePicker>("dtpQuickBio").setValue(DateSerial(1972, 10, 2));
+    EXPECT_EQ(control<DatePicker>("dtpQuickBio").text(), QStringLiteral("2 October 1972"));
+}
+
 TEST_F(QuickMode, AcceptsAnyDateAtFirst) {
     enter();
     go(DateSerial(1753, 1, 1));

@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QLabel>
 #include <QMenu>
+#include <QPushButton>
 #include <QToolBar>
 
 #include "controls/chart.h"
@@ -26,6 +27,9 @@ namespace {
 
 const QString kAnna = QStringLiteral("Smith, Anna");
 const Date kAnnasBirthdate = DateSerial(1972, 10, 20);
+const QString kNoCurrentRecord = QStringLiteral(
+    "Run-time error '3021':\n\nEither BOF or EOF is True, or the current record has "
+    "been deleted. Requested operation requires a current record.");
 
 class MainWindow : public MainWindowTest {
   protected:
@@ -61,6 +65,28 @@ TEST_F(MainWindow, StartsWithTodayAndWithoutAPerson) {
     EXPECT_EQ(control<ComboBox>("cmbScroll").ListCount(), 4);
     EXPECT_TRUE(control<QAction>("mnuViewHide").isChecked());
     EXPECT_TRUE(control<QAction>("tlbMain_Hide").isChecked());
+}
+
+TEST_F(MainWindow, CallsItsControlsByTheirTextsBeforeItIsLoaded) {
+    const frmMain unloaded;
+    EXPECT_EQ(child<QLabel>(unloaded, QStringLiteral("lblTitle")).text(),
+              QStringLiteral("Biorhythm"));
+    EXPECT_EQ(child<QLabel>(unloaded, QStringLiteral("lblFilter")).text(),
+              QStringLiteral("Apply Filter:"));
+    EXPECT_EQ(child<ListBox>(unloaded, QStringLiteral("lstMain")).toolTip(),
+              QStringLiteral("Doubleclick a name to see details"));
+    EXPECT_TRUE(child<ListBox>(unloaded, QStringLiteral("listCats")).isHidden());
+    EXPECT_EQ(child<QPushButton>(unloaded, QStringLiteral("cmdQuickGo")).text(),
+              QStringLiteral("&Go"));
+}
+
+TEST_F(MainWindow, ScrollsByUnitsThatStandInTheirOrder) {
+    load();
+    QStringList units;
+    for (int unit = Days; unit <= Years; ++unit)
+        units += control<ComboBox>("cmbScroll").List(unit);
+    EXPECT_EQ(units, QStringList({QStringLiteral("Days"), QStringLiteral("Weeks"),
+                                  QStringLiteral("Months"), QStringLiteral("Years")}));
 }
 
 TEST_F(MainWindow, ChartsThePersonWhoIsChosen) {
@@ -121,9 +147,7 @@ TEST_F(MainWindow, ChartsAPersonWhoseCategoryIsGone) {
 TEST_F(MainWindow, EndsTheProgramForAPersonWhoIsGone) {
     load();
     runSql(directory_.people(), QStringLiteral("DELETE FROM Data WHERE Name = 'Adler'"));
-    host_.expectMessage(
-        QStringLiteral("Run-time error '3021':\n\nEither BOF or EOF is True, or the current record "
-                       "has been deleted. Requested operation requires a current record."));
+    host_.expectMessage(kNoCurrentRecord);
     control<ListBox>("lstMain").setListIndex(0);
     EXPECT_EQ(host_.exitCode(), 1);
 }
@@ -135,6 +159,16 @@ TEST_F(MainWindow, EndsTheProgramForAPersonWithoutABirthDate) {
     load();
     host_.expectMessage(QStringLiteral("Run-time error '94':\n\nInvalid use of Null"));
     control<ListBox>("lstMain").setText(QStringLiteral("Undated"));
+    EXPECT_EQ(host_.exitCode(), 1);
+}
+
+TEST_F(MainWindow, EndsTheProgramForABirthDateBeforeTheCalendarBegins) {
+    addPerson({.name = QStringLiteral("Bach"),
+               .birthdate = Value(DateSerial(1685, 3, 31)),
+               .catId = family_});
+    load();
+    host_.expectMessage(QStringLiteral("Run-time error '380':\n\nInvalid property value"));
+    control<ListBox>("lstMain").setText(QStringLiteral("Bach"));
     EXPECT_EQ(host_.exitCode(), 1);
 }
 
@@ -272,9 +306,15 @@ TEST_F(MainWindow, StartsWithoutTheInterpretations) {
 
 TEST_F(MainWindow, EndsTheProgramWithoutPeople) {
     runSql(directory_.people(), QStringLiteral("DELETE FROM Data"));
-    host_.expectMessage(
-        QStringLiteral("Run-time error '3021':\n\nEither BOF or EOF is True, or the current record "
-                       "has been deleted. Requested operation requires a current record."));
+    host_.expectMessage(kNoCurrentRecord);
+    load();
+    EXPECT_EQ(host_.exitCode(), 1);
+}
+
+TEST_F(MainWindow, EndsTheProgramWithoutCategories) {
+    directory_.dropConstraints();
+    addPerson({.name = QStringLiteral("Orphan"), .catId = 99});
+    host_.expectMessage(kNoCurrentRecord);
     load();
     EXPECT_EQ(host_.exitCode(), 1);
 }

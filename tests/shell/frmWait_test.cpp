@@ -23,6 +23,7 @@ TEST_F(WaitWindow, AsksForPatience) {
     showWaitWindow();
     ASSERT_NE(shown(), nullptr);
     EXPECT_TRUE(shown()->isVisible());
+    EXPECT_FALSE(shown()->isModal());
     EXPECT_EQ(child<QLabel>(*shown(), QStringLiteral("lblWait")).text(),
               QStringLiteral("Please wait ....."));
 }

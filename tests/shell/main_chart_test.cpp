@@ -64,6 +64,15 @@ TEST_F(MainChart, LeavesTheEarliestDateWhenItGoesBlank) {
     EXPECT_EQ(control<MonthView>("dtpSelDate").Value(), DateSerial(2000, 3, 14));
 }
 
+TEST_F(MainChart, ReadsTodayAnewWheneverItGoesBlank) {
+    load();
+    host_.setNow(DateSerial(2000, 3, 15) + 0.001);
+    ShowBlankChart();
+    EXPECT_EQ(control<MonthView>("dtpSelDate").Value(), DateSerial(2000, 3, 15));
+    EXPECT_EQ(control<Chart>("chtMain").content().table.rowLabels.front(),
+              QStringLiteral("15/03/2000"));
+}
+
 TEST_F(MainChart, TellsAPointByItsDrawnValues) {
     load();
     RedrawMainChart(DateSerial(1972, 10, 27), DateSerial(2000, 3, 14));

@@ -2,6 +2,7 @@
 #include "shell/main_lists.h"
 
 #include <QLabel>
+#include <functional>
 
 #include "controls/chart.h"
 #include "controls/combo_box.h"
@@ -97,17 +98,19 @@ TEST_F(MainLists, BlankTheChartWhenTheFilterChanges) {
     EXPECT_EQ(control<MonthView>("dtpSelDate").Value(), DateSerial(2000, 3, 14));
 }
 
-TEST_F(MainLists, AskForAPersonAfterEveryFill) {
-    loadAndChoose(QStringLiteral("Smith, Anna"));
-    FillPersonList();
-    EXPECT_EQ(control<ListBox>("lstMain").ListIndex(), -1);
-    EXPECT_EQ(control<StatusBar>("sbMain").panelText(), kAsk);
-    control<ListBox>("lstMain").setListIndex(0);
-    FillPersonListByCategory();
-    EXPECT_EQ(control<StatusBar>("sbMain").panelText(), kAsk);
-    control<ListBox>("lstMain").setListIndex(0);
-    FillCategoryList();
-    EXPECT_EQ(control<StatusBar>("sbMain").panelText(), kAsk);
+TEST_F(MainLists, AskForAPersonAndGoBackToTodayAfterEveryFill) {
+    load();
+    const auto fillOneCategory = [this] { chooseCategory(QStringLiteral("Family")); };
+    const std::function<void()> fills[] = {FillPersonList, FillPersonListByCategory,
+                                           fillOneCategory, FillCategoryList};
+    for (const auto& fill : fills) {
+        control<ListBox>("lstMain").setText(QStringLiteral("Smith, Anna"));
+        control<MonthView>("dtpSelDate").setValue(DateSerial(2010, 1, 1));
+        fill();
+        EXPECT_EQ(control<ListBox>("lstMain").ListIndex(), -1);
+        EXPECT_EQ(control<StatusBar>("sbMain").panelText(), kAsk);
+        EXPECT_EQ(control<MonthView>("dtpSelDate").Value(), DateSerial(2000, 3, 14));
+    }
 }
 
 TEST_F(MainLists, LeaveTheLastPersonsTooltipAndEarliestDate) {

@@ -2,6 +2,7 @@
 #include "shell/start_up.h"
 
 #include <QApplication>
+#include <QDir>
 
 #include "controls/form.h"
 #include "runtime/event.h"
@@ -12,8 +13,27 @@
 
 namespace {
 
-// Writes down which forms are loaded and shown when windows are let to paint and when the database
-// is about to be read.
+// Writes down which forms appear and disappear, in their order.
+class WindowRecord final : public QObject {
+  public:
+    WindowRecord() { qApp->installEventFilter(this); }
+
+    const QStringList& happened() const { return happened_; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (qobject_cast<Form*>(watched)) {
+            if (event->type() == QEvent::Show)
+                happened_ += watched->objectName() + QStringLiteral(" shown");
+            if (event->type() == QEvent::Hide)
+                happened_ += watched->objectName() + QStringLiteral(" hidden");
+        }
+        return false;
+    }
+
+  private:
+    QStringList happened_;
+};
+
 class StartUp : public MainWindowTest {
   protected:
     ~StartUp() override {
@@ -49,6 +69,21 @@ TEST_F(StartUp, KeepsTheSplashUntilTheMainWindowIsLoaded) {
     EXPECT_EQ(loadedForms(), QStringList({QStringLiteral("frmSplash"), QStringLiteral("frmMain")}));
     EXPECT_TRUE(Form::forms().front()->isVisible());
     EXPECT_FALSE(Form::forms().back()->isVisible());
+}
+
+TEST_F(StartUp, ShowsTheMainWindowWhenTheSplashHasGone) {
+    WindowRecord windows;
+    modCycles::Main();
+    EXPECT_EQ(windows.happened(),
+              QStringList({QStringLiteral("frmSplash shown"), QStringLiteral("frmSplash hidden"),
+                           QStringLiteral("frmMain shown")}));
+}
+
+TEST_F(StartUp, LeavesNoMarkerBesideTheDatabases) {
+    modCycles::Main();
+    EXPECT_EQ(
+        QDir(directory_.path({})).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+        QStringList({QStringLiteral("Interp.mdb"), QStringLiteral("Ondara2.mdb")}));
 }
 
 TEST_F(StartUp, RefusesASecondInstanceAndLoadsNothing) {

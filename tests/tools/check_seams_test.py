@@ -29,6 +29,15 @@ class Seams(MadeUpTree):
         self.write_tested('controls/desktop_host', 'QMessageBox box;\n')
         self.expect_pass()
 
+    def test_nobody_reads_or_writes_a_configuration(self):
+        for use in ('QSettings', 'QCommandLineParser', 'QProcessEnvironment', 'qgetenv', 'qputenv',
+                    'qEnvironmentVariable', 'qEnvironmentVariableIsSet', 'getenv', 'secure_getenv',
+                    'setenv', 'putenv', 'QApplication::arguments', 'QCoreApplication::arguments'):
+            with self.subTest(use):
+                self.write_tested('runtime/machine_host', f'\nauto value = {use}();\n')
+                self.expect_objection('src/runtime/machine_host.cpp:2: '
+                                      f'{use}: the program has no configuration')
+
     def test_a_comment_or_a_text_asks_nobody(self):
         self.write_tested('shell/frmMain', '// No QMessageBox here.\nauto t = "QPrinter";\n')
         self.expect_pass()

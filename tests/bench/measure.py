@@ -34,7 +34,8 @@ CLICKED_AIM = {people: 8 for people in PEOPLE}
 GROWTH_AIM = 1.5
 
 STARTS = [
-    ('first painted window', 'painted', 'ms', PAINTED_AIM),
+    ('first window painted', 'first_painted', 'ms', {}),
+    ('main window painted', 'painted', 'ms', PAINTED_AIM),
     ('settled', 'settled', 'ms', {}),
     ('memory (PSS)', 'memory', 'MiB', MEMORY_AIM),
 ]
@@ -47,7 +48,10 @@ ROUTINES = [
 
 
 class Start:
-    """One start of a program, which tells by first_paint.cpp what it has painted."""
+    """One start of a program, which tells by first_paint.cpp what it has painted.
+
+    The first window may be a splash; with the one that is named, the program is there.
+    """
 
     def __init__(self, program, window):
         began = time.monotonic_ns()
@@ -57,17 +61,18 @@ class Start:
                 self.memory = self._memory(process.pid)
             finally:
                 process.kill()
-        self.painted, self.settled = ((moment - began) / 1e6 for moment in moments)
+        self.first_painted, self.painted, self.settled = (
+            (moment - began) / 1e6 for moment in moments)
 
     @staticmethod
     def _moments(process, window):
-        painted = None
+        painted = {}
         for line in process.stdout:
             what, *name, moment = line.split()
-            if what == 'painted' and name == [window]:
-                painted = int(moment)
-            elif what == 'settled' and painted:
-                return painted, int(moment)
+            if what == 'painted':
+                painted[name[0]] = int(moment)
+            elif what == 'settled' and window in painted:
+                return min(painted.values()), painted[window], int(moment)
         raise RuntimeError(f'the window {window} has not been painted')
 
     @staticmethod

@@ -3,9 +3,8 @@
 #include "shell/frmMain.h"
 
 #include <QAction>
+#include <QFile>
 #include <QLabel>
-#include <QMenu>
-#include <QToolBar>
 
 #include "controls/chart.h"
 #include "controls/combo_box.h"
@@ -59,6 +58,7 @@ TEST_F(MainWindow, StartsWithTodayAndWithoutAPerson) {
     EXPECT_EQ(control<DatePicker>("dtpQuickBio").Value(), DateSerial(2000, 3, 14));
     EXPECT_EQ(control<ComboBox>("cmbScroll").Text(), QStringLiteral("Days"));
     EXPECT_EQ(control<ComboBox>("cmbScroll").ListCount(), 4);
+    EXPECT_EQ(control<DatePicker>("dtpQuickBio").CustomFormat(), QStringLiteral("d MMMM yyyy"));
     EXPECT_TRUE(control<QAction>("mnuViewHide").isChecked());
     EXPECT_TRUE(control<QAction>("tlbMain_Hide").isChecked());
 }

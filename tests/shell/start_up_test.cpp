@@ -1,7 +1,8 @@
 // The start of the program.
 #include "shell/start_up.h"
 
-#include <QApplication>
+#include <QCoreApplication>
+#include <QFile>
 
 #include "controls/form.h"
 #include "runtime/event.h"

@@ -3,6 +3,7 @@
 #include "shell/frmMain.h"
 
 #include <QAction>
+#include <QFile>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
@@ -63,6 +64,7 @@ TEST_F(MainWindow, StartsWithTodayAndWithoutAPerson) {
     EXPECT_EQ(control<DatePicker>("dtpQuickBio").Value(), DateSerial(2000, 3, 14));
     EXPECT_EQ(control<ComboBox>("cmbScroll").Text(), QStringLiteral("Days"));
     EXPECT_EQ(control<ComboBox>("cmbScroll").ListCount(), 4);
+    EXPECT_EQ(control<DatePicker>("dtpQuickBio").CustomFormat(), QStringLiteral("d MMMM yyyy"));
     EXPECT_TRUE(control<QAction>("mnuViewHide").isChecked());
     EXPECT_TRUE(control<QAction>("tlbMain_Hide").isChecked());
 }

@@ -12,6 +12,14 @@ DatePicker::DatePicker(QWidget* parent) : QDateEdit(parent), DateControl(host().
                  toQDate(modCycles::kLatestCalendarDate));
     setDate(toQDate(Value()));
     setCalendarPopup(true);
-    setCalendarWidget(new QuietCalendar(this));
     connect(this, &QDateEdit::dateChanged, this, [this](QDate date) { shows(date); });
+}
+
+// A field that stays hidden needs no calendar, which is the larger part of it.
+void DatePicker::showEvent(QShowEvent* event) {
+    if (!calendar_) {
+        calendar_ = new QuietCalendar(this);
+        setCalendarWidget(calendar_);
+    }
+    QDateEdit::showEvent(event);
 }

@@ -5,6 +5,8 @@
 
 #include "controls/date_control.h"
 
+class QuietCalendar;
+
 // Change is fired when the user has changed the date.
 class DatePicker final : public QDateEdit, public DateControl {
     Q_OBJECT
@@ -21,7 +23,11 @@ class DatePicker final : public QDateEdit, public DateControl {
     void Change();
 
   protected:
+    void showEvent(QShowEvent* event) override;
     void showValue(QDate value) override { setDate(value); }
     void showMinDate(QDate minDate) override { setMinimumDate(minDate); }
     void fireChange() override { Q_EMIT Change(); }
+
+  private:
+    QuietCalendar* calendar_ = nullptr;  // the one that drops down
 };

@@ -3,6 +3,10 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QTimer>
+#include <QWindow>
+#include <algorithm>
+#include <chrono>
 
 namespace {
 
@@ -40,6 +44,19 @@ QWidget* windowOf(QObject* owner) {
     return widget ? widget->window() : QApplication::activeWindow();
 }
 
+// How long a window system may take to show a window. One that is slower, or hides the window
+// behind others, is not waited for.
+constexpr std::chrono::milliseconds kPatience{200};
+
+bool hasAppeared(const QWidget* window) {
+    return !window->isVisible() || window->isMinimized() || window->windowHandle()->isExposed();
+}
+
+bool allWindowsHaveAppeared() {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::all_of(windows.begin(), windows.end(), hasAppeared);
+}
+
 }  // namespace
 
 Answer DesktopHost::showMessage(const Message& message) {
@@ -56,6 +73,13 @@ void DesktopHost::yield() {
     QApplication::processEvents();
 }
 
+// A window that has been shown appears when the window system has answered, and is then painted.
 void DesktopHost::paintWindows() {
+    QTimer patience;
+    patience.setSingleShot(true);
+    patience.start(kPatience);
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    while (!allWindowsHaveAppeared() && patience.isActive())
+        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                    QEventLoop::WaitForMoreEvents);
 }

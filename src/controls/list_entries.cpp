@@ -2,8 +2,6 @@
 #include "controls/list_entries.h"
 
 #include <algorithm>
-#include <compare>
-#include <iterator>
 #include <utility>
 
 #include "runtime/errors.h"
@@ -11,33 +9,10 @@
 
 namespace {
 
-bool leads(const ListEntry& entry) {
-    return entry.leads;
-}
-
-// An entry in a sort. Most comparisons are decided by the beginning, without a look at the key.
-struct SortItem {
-    TextKey::Beginning beginning;
-    std::size_t place;
-};
-
-// The places of the entries from `first` on, in the order in which these entries belong.
-std::vector<SortItem> inOrder(const std::vector<ListEntry>& entries, std::size_t first) {
-    std::vector<TextKey> keys;
-    std::vector<SortItem> items;
-    keys.reserve(entries.size());
-    items.reserve(entries.size());
-    for (std::size_t place = first; place < entries.size(); ++place) {
-        keys.emplace_back(entries[place].text);
-        items.push_back({keys.back().beginning(), place});
-    }
-    std::sort(items.begin(), items.end(), [&](const SortItem& a, const SortItem& b) {
-        if (a.beginning != b.beginning)
-            return a.beginning < b.beginning;
-        const auto order = keys[a.place - first] <=> keys[b.place - first];
-        return std::is_neq(order) ? std::is_lt(order) : a.place < b.place;
-    });
-    return items;
+bool comesBefore(const ListEntry& a, const ListEntry& b) {
+    if (a.leads != b.leads)
+        return a.leads;
+    return compareTexts(a.text, b.text) < 0;
 }
 
 }  // namespace
@@ -57,23 +32,14 @@ void ListEntries::fill(std::vector<ListEntry> entries) {
 }
 
 void ListEntries::sort() {
-    const auto followers = std::stable_partition(entries_.begin(), entries_.end(), leads);
-    std::vector<ListEntry> sorted(std::make_move_iterator(entries_.begin()),
-                                  std::make_move_iterator(followers));
-    const std::vector<SortItem> items = inOrder(entries_, sorted.size());
-    sorted.reserve(entries_.size());
-    for (const SortItem& item : items)
-        sorted.push_back(std::move(entries_[item.place]));
-    entries_ = std::move(sorted);
+    std::stable_sort(entries_.begin(), entries_.end(), comesBefore);
 }
 
 int ListEntries::placeOf(const QString& text) const {
     if (!sorted_)
         return count();
-    const auto followers = std::find_if_not(entries_.begin(), entries_.end(), leads);
-    const auto place = std::upper_bound(
-        followers, entries_.end(), TextKey(text),
-        [](const TextKey& key, const ListEntry& entry) { return key < TextKey(entry.text); });
+    const auto place =
+        std::upper_bound(entries_.begin(), entries_.end(), ListEntry{.text = text}, comesBefore);
     return static_cast<int>(place - entries_.begin());
 }
 

@@ -8,9 +8,8 @@
 #include "store/item_list.h"
 
 // The data behind a list box and a drop-down list. A sorted list keeps its entries in the one order
-// of texts (TextKey), equal texts in the order in which they came, and entries that lead before all
-// others. The keys of the order live as long as one sort: adding an entry looks at a few neighbours
-// and makes theirs again, which is cheaper than holding the keys of all.
+// of texts (text_order.h), equal texts in the order in which they came, and entries that lead
+// before all others.
 //
 // It knows nothing of a selection.
 class ListEntries {

@@ -2,6 +2,7 @@
 #include "controls/quiet_calendar.h"
 
 #include <QEvent>
+#include <QIcon>
 #include <QTextCharFormat>
 #include <QToolButton>
 
@@ -18,7 +19,24 @@ void withPart(const QWidget& calendar, const char* name, void (*change)(Part&)) 
 
 }  // namespace
 
-QuietCalendar::QuietCalendar(QWidget* parent) : QCalendarWidget(parent) {
+// Qt's calendar looks its arrows up in the desktop's icon theme, which no other part of a window
+// does, and they are replaced here. To read the theme takes as long as all the rest of the
+// calendar.
+class QuietCalendar::IconThemeAside {
+  public:
+    IconThemeAside() : searchPaths_(QIcon::themeSearchPaths()) {
+        QIcon::setThemeSearchPaths({QStringLiteral(":/icons")});
+    }
+    ~IconThemeAside() { QIcon::setThemeSearchPaths(searchPaths_); }
+    Q_DISABLE_COPY_MOVE(IconThemeAside)
+
+  private:
+    QStringList searchPaths_;
+};
+
+QuietCalendar::QuietCalendar(QWidget* parent) : QuietCalendar(parent, IconThemeAside()) {}
+
+QuietCalendar::QuietCalendar(QWidget* parent, const IconThemeAside&) : QCalendarWidget(parent) {
     setLocale(host().locale());
     setFirstDayOfWeek(locale().firstDayOfWeek());
     setVerticalHeaderFormat(NoVerticalHeader);

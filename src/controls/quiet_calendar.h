@@ -15,5 +15,8 @@ class QuietCalendar : public QCalendarWidget {
     void changeEvent(QEvent* event) override;
 
   private:
+    class IconThemeAside;
+    QuietCalendar(QWidget* parent, const IconThemeAside&);
+
     void followPalette();
 };

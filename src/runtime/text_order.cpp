@@ -1,193 +1,132 @@
-// The comparison of text_order.h, with a fast road for the letters of the European languages.
+// The comparison of text_order.h. Two texts are mostly told apart by the first letters in which
+// they differ, so no more than these is folded; what they leave open, the whole texts decide.
 #include "runtime/text_order.h"
 
-#include <QChar>
-#include <QList>
-#include <QtEndian>
+#include <QByteArray>
+#include <QString>
 #include <algorithm>
-#include <array>
-#include <cstdint>
-#include <cstring>
+#include <optional>
+
+#include "runtime/text_fold.h"
 
 namespace {
 
-bool isAscii(char byte) {
-    return static_cast<unsigned char>(byte) < 0x80;
+// The byte order of UTF-8 is that of code points.
+std::weak_ordering compareCodePoints(const QString& a, const QString& b) {
+    return a.toUtf8().compare(b.toUtf8()) <=> 0;
 }
 
-char lowerAscii(char byte) {
-    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
+std::weak_ordering compareWhole(const QString& a, const QString& b) {
+    if (const auto order = compareCodePoints(folded(a), folded(b)); order != 0)
+        return order;
+    return compareCodePoints(accented(a), accented(b));
 }
 
-bool isAscii(const QString& text) {
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+// Stands for whatever is not a character of the first plane: half of one, or bytes that are none.
+constexpr char16_t kBeyond = 0xD800;
+
+// These take one character from a text and move the place behind it.
+char16_t takeCharacter(QStringView text, qsizetype& place) {
+    return text[place++].unicode();
 }
 
-bool isMark(QChar::Category category) {
-    return category == QChar::Mark_NonSpacing || category == QChar::Mark_SpacingCombining ||
-           category == QChar::Mark_Enclosing;
+// The six bits of a byte that continues a character, or something larger.
+unsigned continuation(QByteArrayView text, qsizetype place) {
+    constexpr unsigned kMark = 0x80;
+    return place < text.size() ? static_cast<unsigned char>(text[place]) ^ kMark : kMark;
 }
 
-QString decomposed(const QString& text) {
-    return text.normalized(QString::NormalizationForm_D);
+char16_t takeCharacter(QByteArrayView text, qsizetype& place) {
+    constexpr unsigned kBits = 0x40;
+    const unsigned lead = static_cast<unsigned char>(text[place++]);
+    if (lead < 0x80)
+        return static_cast<char16_t>(lead);
+    if (lead < 0xC2 || lead >= 0xF0)
+        return kBeyond;
+    const unsigned second = continuation(text, place++);
+    if (lead < 0xE0)
+        return second < kBits ? static_cast<char16_t>((lead - 0xC0) * kBits + second) : kBeyond;
+    const unsigned third = continuation(text, place++);
+    const unsigned character = ((lead - 0xE0) * kBits + second) * kBits + third;
+    return second < kBits && third < kBits && character >= 0x800 ? static_cast<char16_t>(character)
+                                                                 : kBeyond;
 }
 
-QString withoutMarks(const QString& decomposedText) {
-    QString text;
-    text.reserve(decomposedText.size());
-    for (const char32_t codePoint : decomposedText.toUcs4()) {
-        if (!isMark(QChar::category(codePoint)))
-            text += QChar::fromUcs4(codePoint);
-    }
-    return text;
-}
-
-// A letter whose capital is written as several letters becomes these: ß becomes ss.
-QString spelledOut(const QString& caseFolded) {
-    return caseFolded.toUpper().toCaseFolded();
-}
-
-QString caseFolded(const QString& text) {
-    return decomposed(decomposed(text).toCaseFolded());
-}
-
-QByteArray folded(const QString& caseFoldedText) {
-    return spelledOut(withoutMarks(caseFoldedText)).toUtf8();
-}
-
-// A character that UTF-8 writes in two bytes, folded; found out when it is first met.
-struct FoldedLetter {
-    std::array<char, 7> bytes{};
-    std::int8_t length = -1;
-};
-
-const FoldedLetter& foldedLetter(char32_t codePoint) {
-    static std::array<FoldedLetter, 0x800> letters;
-    FoldedLetter& letter = letters[codePoint];
-    if (letter.length < 0) {
-        const QByteArray bytes = folded(caseFolded(QString::fromUcs4(&codePoint, 1)));
-        Q_ASSERT(bytes.size() <= static_cast<qsizetype>(letter.bytes.size()));
-        std::copy(bytes.begin(), bytes.end(), letter.bytes.begin());
-        letter.length = static_cast<std::int8_t>(bytes.size());
-    }
-    return letter;
-}
-
-// Reads the folded bytes of a text one by one. That is the same as folding the whole text, as no
-// character's folding depends on its neighbours.
-class FoldedReader {
+// The letters that a text is folded into, from a place on.
+template <class Text>
+class Letters {
   public:
-    static constexpr int kEnd = -1;      // less than every byte
-    static constexpr int kUnknown = -2;  // a character of more than two bytes, or no UTF-8
+    static constexpr int kEnd = -1;
 
-    explicit FoldedReader(QByteArrayView text) : text_(text) {}
+    Letters(Text text, qsizetype place) : text_(text), place_(place) {}
 
     int next() {
-        while (letterPlace_ == letterLength_) {
-            if (text_.isEmpty())
+        while (letter_ == end_) {
+            if (place_ >= text_.size())
                 return kEnd;
-            if (isAscii(text_[0])) {
-                const char byte = lowerAscii(text_[0]);
-                text_ = text_.sliced(1);
-                return byte;
-            }
-            if (!readLetter())
-                return kUnknown;
+            const Fold& fold = Fold::of(takeCharacter(text_, place_));
+            letter_ = fold.begin();
+            end_ = fold.end();
         }
-        return static_cast<unsigned char>(letter_[letterPlace_++]);
+        return *letter_++;
     }
 
   private:
-    bool readLetter() {
-        const auto byteAt = [this](qsizetype i) { return static_cast<unsigned char>(text_[i]); };
-        if (text_.size() < 2 || byteAt(0) < 0xC2 || byteAt(0) > 0xDF || (byteAt(1) & 0xC0) != 0x80)
-            return false;
-        const FoldedLetter& letter =
-            foldedLetter(static_cast<char32_t>((byteAt(0) & 0x1F) << 6 | (byteAt(1) & 0x3F)));
-        letter_ = letter.bytes.data();
-        letterPlace_ = 0;
-        letterLength_ = letter.length;
-        text_ = text_.sliced(2);
-        return true;
-    }
-
-    QByteArrayView text_;
-    const char* letter_ = nullptr;
-    int letterPlace_ = 0;
-    int letterLength_ = 0;
+    Text text_;
+    qsizetype place_;
+    const char16_t* letter_ = nullptr;
+    const char16_t* end_ = nullptr;
 };
 
-// How many ASCII letters two texts begin with in common, whatever their case.
-qsizetype commonPrefix(QByteArrayView a, QByteArrayView b) {
-    const qsizetype shorter = std::min(a.size(), b.size());
-    qsizetype place = 0;
-    while (place < shorter && isAscii(a[place]) && lowerAscii(a[place]) == lowerAscii(b[place]))
-        ++place;
+bool isInsideCharacter(QStringView, qsizetype) {
+    return false;
+}
+
+bool isInsideCharacter(QByteArrayView text, qsizetype place) {
+    return place < text.size() && (static_cast<unsigned char>(text[place]) & 0xC0U) == 0x80U;
+}
+
+// Where two texts first differ, at the beginning of a character.
+template <class Text>
+qsizetype firstDifference(Text a, Text b) {
+    qsizetype place = std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first - a.begin();
+    while (place > 0 && (isInsideCharacter(a, place) || isInsideCharacter(b, place)))
+        --place;
     return place;
 }
 
-std::weak_ordering orderOf(int comparison) {
-    return comparison <=> 0;
+bool isSurrogate(int letter) {
+    return letter >= 0xD800 && letter < 0xE000;
 }
 
-std::weak_ordering compareBytes(const QByteArray& a, const QByteArray& b) {
-    return orderOf(a.compare(b));
+// The order by the first letters that differ; none if there are none, or not in the first plane.
+template <class Text>
+std::optional<std::weak_ordering> compareLetters(Text a, Text b) {
+    const qsizetype start = firstDifference(a, b);
+    if (start == a.size() && start == b.size())
+        return std::weak_ordering::equivalent;
+    Letters<Text> lettersA(a, start);
+    Letters<Text> lettersB(b, start);
+    for (;;) {
+        const int letterA = lettersA.next();
+        const int letterB = lettersB.next();
+        if (isSurrogate(letterA) || isSurrogate(letterB))
+            return std::nullopt;
+        if (letterA != letterB)
+            return letterA <=> letterB;
+        if (letterA == Letters<Text>::kEnd)
+            return std::nullopt;
+    }
 }
 
 }  // namespace
 
-TextKey::TextKey(const QString& text) {
-    if (isAscii(text)) {
-        folded_ = text.toLatin1().toLower();
-        return;
-    }
-    const QString folding = caseFolded(text);
-    folded_ = folded(folding);
-    const QByteArray accented = folding.toUtf8();
-    if (accented != folded_)
-        accented_ = accented;
+std::weak_ordering compareTexts(QStringView a, QStringView b) {
+    const auto order = compareLetters(a, b);
+    return order ? *order : compareWhole(a.toString(), b.toString());
 }
 
-TextKey::Beginning TextKey::beginning() const {
-    Beginning numbers{};
-    std::memcpy(numbers.data(), folded_.constData(),
-                std::min(static_cast<std::size_t>(folded_.size()), sizeof(numbers)));
-    for (std::uint64_t& number : numbers)
-        number = qFromBigEndian(number);
-    return numbers;
-}
-
-std::weak_ordering operator<=>(const TextKey& a, const TextKey& b) {
-    if (const auto order = compareBytes(a.folded_, b.folded_); order != 0)
-        return order;
-    if (a.accented_.isEmpty() && b.accented_.isEmpty())
-        return std::weak_ordering::equivalent;
-    return compareBytes(a.accented_.isEmpty() ? a.folded_ : a.accented_,
-                        b.accented_.isEmpty() ? b.folded_ : b.accented_);
-}
-
-std::weak_ordering compareTexts(const QString& a, const QString& b) {
-    return compareUtf8(a.toUtf8(), b.toUtf8());
-}
-
-// The first folded byte that differs decides. Where none does, the accents decide, for which the
-// whole texts are folded; so they are where a character is met that the reader does not know.
 std::weak_ordering compareUtf8(QByteArrayView a, QByteArrayView b) {
-    const qsizetype start = commonPrefix(a, b);
-    if (start < std::min(a.size(), b.size()) && isAscii(a[start]) && isAscii(b[start]))
-        return lowerAscii(a[start]) <=> lowerAscii(b[start]);
-    FoldedReader readerA(a.sliced(start));
-    FoldedReader readerB(b.sliced(start));
-    int byteA = readerA.next();
-    int byteB = readerB.next();
-    while (byteA == byteB && byteA >= 0) {
-        byteA = readerA.next();
-        byteB = readerB.next();
-    }
-    const bool known = byteA != FoldedReader::kUnknown && byteB != FoldedReader::kUnknown;
-    if (known && byteA != byteB)
-        return byteA <=> byteB;
-    if (a == b)
-        return std::weak_ordering::equivalent;
-    return TextKey(QString::fromUtf8(a)) <=> TextKey(QString::fromUtf8(b));
+    const auto order = compareLetters(a, b);
+    return order ? *order : compareWhole(QString::fromUtf8(a), QString::fromUtf8(b));
 }

@@ -1,13 +1,15 @@
 // The texts of person_entry.h.
 #include "store/person_entry.h"
 
+#include <QStringBuilder>
+
 #include "runtime/text.h"
 #include "store/recordset.h"
 
 QString displayText(const Value& name, const Value& firstName) {
     if (isNullOrEmpty(firstName))
         return name.toText();
-    return name.toText() + QStringLiteral(", ") + firstName.toText();
+    return name.toText() % QLatin1String(", ") % firstName.toText();
 }
 
 QString fullName(const Value& name, const Value& firstName) {
@@ -17,9 +19,9 @@ QString fullName(const Value& name, const Value& firstName) {
 }
 
 QString displayText(const Recordset& person) {
-    return displayText(person.Fields(u"Name"), person.Fields(u"fname"));
+    return displayText(person.Fields(u"Name"), person.Fields(u"FName"));
 }
 
 QString fullName(const Recordset& person) {
-    return fullName(person.Fields(u"Name"), person.Fields(u"fname"));
+    return fullName(person.Fields(u"Name"), person.Fields(u"FName"));
 }

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QTimer>
+#include <QWindow>
 
 #include "support/printing.h"
 
@@ -70,6 +71,28 @@ TEST_F(DesktopHostTest, YieldsToWaitingEvents) {
     QTimer::singleShot(0, [&] { happened = true; });
     host_.yield();
     EXPECT_TRUE(happened);
+}
+
+// A widget that is not shown on the screen stands for a window that the window system is slow with.
+TEST_F(DesktopHostTest, WaitsForAWindowThatAppearsLate) {
+    QWidget window;
+    window.setAttribute(Qt::WA_DontShowOnScreen);
+    window.show();
+    QTimer::singleShot(10, [&] {
+        window.hide();
+        window.setAttribute(Qt::WA_DontShowOnScreen, false);
+        window.show();
+    });
+    host_.paintWindows();
+    EXPECT_TRUE(window.windowHandle()->isExposed());
+}
+
+TEST_F(DesktopHostTest, DoesNotWaitForEverForAWindowThatStaysAway) {
+    QWidget window;
+    window.setAttribute(Qt::WA_DontShowOnScreen);
+    window.show();
+    host_.paintWindows();
+    EXPECT_FALSE(window.windowHandle()->isExposed());
 }
 
 }  // namespace

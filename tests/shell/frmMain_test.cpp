@@ -5,9 +5,7 @@
 #include <QAction>
 #include <QFile>
 #include <QLabel>
-#include <QMenu>
 #include <QPushButton>
-#include <QToolBar>
 
 #include "controls/chart.h"
 #include "controls/combo_box.h"

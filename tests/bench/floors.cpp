@@ -1,0 +1,51 @@
+// The plain reading of floors.h.
+#include "bench/floors.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <algorithm>
+
+namespace {
+
+std::vector<PlainPerson> sortedPeople(SQLite::Statement rows) {
+    std::vector<PlainPerson> people;
+    while (rows.executeStep()) {
+        std::string text = rows.getColumn(0).getText();
+        if (const std::string first = rows.getColumn(1).getText(); !first.empty())
+            text += ", " + first;
+        people.push_back({std::move(text), rows.getColumn(2).getInt()});
+    }
+    std::sort(people.begin(), people.end(),
+              [](const PlainPerson& a, const PlainPerson& b) { return a.text < b.text; });
+    return people;
+}
+
+}  // namespace
+
+std::vector<PlainPerson> plainPeople(const QString& database) {
+    const SQLite::Database file(database.toStdString());
+    return sortedPeople({file, "SELECT Name, FName, NameID FROM Data"});
+}
+
+std::vector<PlainPerson> plainPeopleOfCategory(const QString& database, Long catId) {
+    const SQLite::Database file(database.toStdString());
+    SQLite::Statement rows(file, "SELECT Name, FName, NameID FROM Data WHERE CatID = ?");
+    rows.bind(1, catId);
+    return sortedPeople(std::move(rows));
+}
+
+std::vector<std::string> plainCategories(const QString& database) {
+    const SQLite::Database file(database.toStdString());
+    SQLite::Statement rows(file, "SELECT Category FROM Category");
+    std::vector<std::string> categories;
+    while (rows.executeStep())
+        categories.push_back(rows.getColumn(0).getText());
+    return categories;
+}
+
+double plainBirthdate(const QString& database, Long nameId) {
+    const SQLite::Database file(database.toStdString());
+    SQLite::Statement row(file, "SELECT Birthdate FROM Data WHERE NameID = ?");
+    row.bind(1, nameId);
+    return row.executeStep() ? row.getColumn(0).getDouble() : 0;
+}

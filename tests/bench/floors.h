@@ -1,0 +1,27 @@
+// The floors: the same data got in the plainest way there is, to measure the program's own against.
+//
+// Each opens the file itself and reads through SQLite, without record sets, events and widgets.
+#pragma once
+
+#include <QString>
+#include <string>
+#include <vector>
+
+#include "cycles/integers.h"
+
+struct PlainPerson {
+    std::string text;
+    Long nameId;
+};
+
+// All people, sorted byte by byte.
+std::vector<PlainPerson> plainPeople(const QString& database);
+
+// The people of one category, sorted byte by byte.
+std::vector<PlainPerson> plainPeopleOfCategory(const QString& database, Long catId);
+
+// The names of all categories.
+std::vector<std::string> plainCategories(const QString& database);
+
+// The birth date of a person, as days since 30 December 1899.
+double plainBirthdate(const QString& database, Long nameId);

@@ -1,0 +1,174 @@
+"""Measures what tools/bench has built, and prints one table.
+
+usage: measure.py PROGRAMS SCHEMA
+
+Makes a program directory for each number of people, starts Ondara there in turn with an empty
+window, and runs the routines of the main window. Every figure is a median. A ratio of starts is
+that of neighbours in one round, so it holds while the machine is busy with something else.
+"""
+
+import json
+import math
+import os
+import re
+import shutil
+import statistics
+import subprocess
+import sys
+import tempfile
+import time
+from pathlib import Path
+
+PEOPLE = [10, 1_000, 100_000]
+ROUNDS = 25
+REPETITIONS = 15
+
+# The aims: at most so many times the empty window, at most so many milliseconds.
+PAINTED_AIM = {10: 1.8, 1_000: 1.8, 100_000: 3}
+MEMORY_AIM = {10: 1.5, 1_000: 1.5, 100_000: 3}
+LISTED_AIM = {100_000: 120}
+CLICKED_AIM = {people: 8 for people in PEOPLE}
+
+# A routine may grow by this much more than n log n from 1,000 people to 100,000: the processor's
+# caches hold the former and not the latter.
+GROWTH_AIM = 1.5
+
+STARTS = [
+    ('first window painted', 'first_painted', 'ms', {}),
+    ('main window painted', 'painted', 'ms', PAINTED_AIM),
+    ('settled', 'settled', 'ms', {}),
+    ('memory (PSS)', 'memory', 'MiB', MEMORY_AIM),
+]
+ROUTINES = [
+    ('FillPersonList', 'fillPersonList', LISTED_AIM),
+    ('FillCategoryList', 'fillCategoryList', {}),
+    ('category picked', 'pickCategory', {}),
+    ('name clicked to chart painted', 'clickName', CLICKED_AIM),
+]
+
+
+class Start:
+    """One start of a program, which tells by first_paint.cpp what it has painted.
+
+    The first window may be a splash; with the one that is named, the program is there.
+    """
+
+    def __init__(self, program, window):
+        began = time.monotonic_ns()
+        with subprocess.Popen([program], stdout=subprocess.PIPE, text=True) as process:
+            try:
+                moments = self._moments(process, window)
+                self.memory = self._memory(process.pid)
+            finally:
+                process.kill()
+        self.first_painted, self.painted, self.settled = (
+            (moment - began) / 1e6 for moment in moments)
+
+    @staticmethod
+    def _moments(process, window):
+        painted = {}
+        for line in process.stdout:
+            what, *name, moment = line.split()
+            if what == 'painted':
+                painted[name[0]] = int(moment)
+            elif what == 'settled' and window in painted:
+                return min(painted.values()), painted[window], int(moment)
+        raise RuntimeError(f'the window {window} has not been painted')
+
+    @staticmethod
+    def _memory(process):
+        sizes = Path(f'/proc/{process}/smaps_rollup').read_text(encoding='ascii')
+        return int(re.search(r'^Pss: +(\d+) kB', sizes, re.MULTILINE)[1]) / 1024
+
+
+def lay_out(programs, schema, folder, people):
+    """A directory that the programs in it take for Ondara's, with so many people."""
+    folder.mkdir()
+    for program in ('bench_ondara', 'bench_routines'):
+        shutil.copy2(programs / program, folder)
+    subprocess.run([programs / 'bench_people', schema, folder / 'Ondara2.mdb', str(people)],
+                   check=True)
+
+
+def measure_starts(programs, folders):
+    """The starts of the empty window and, for each number of people, those of Ondara."""
+    empty, ondara = [], {people: [] for people in folders}
+    for _ in range(ROUNDS):
+        empty.append(Start(programs / 'bench_empty', 'empty'))
+        for people, folder in folders.items():
+            ondara[people].append(Start(folder / 'bench_ondara', 'frmMain'))
+    return empty, ondara
+
+
+def measure_routines(folder):
+    """The time of each routine and each floor, in milliseconds."""
+    report = subprocess.run(
+        [folder / 'bench_routines', f'--benchmark_repetitions={REPETITIONS}',
+         '--benchmark_min_time=0.05', '--benchmark_enable_random_interleaving=true',
+         '--benchmark_report_aggregates_only=true', '--benchmark_format=json'],
+        check=True, stdout=subprocess.PIPE, text=True).stdout
+    return {run['run_name'].split('/')[0]: run['real_time'] / 1e6
+            for run in json.loads(report)['benchmarks'] if run['aggregate_name'] == 'median'}
+
+
+def verdict(value, aim, unit):
+    if aim is None:
+        return ''
+    return f'{"met" if value <= aim else "MISSED"}: <= {aim} {unit}'
+
+
+def print_row(*cells):
+    what, *figures, judged = cells
+    print(f'{what:32}' + ''.join(f'{figure:>14}' for figure in figures) + f'   {judged}'.rstrip())
+
+
+def print_starts(empty, ondara):
+    print_row('start', 'people', 'Ondara', 'empty window', 'ratio', 'aim')
+    for what, figure, unit, aims in STARTS:
+        for people, starts in ondara.items():
+            pairs = [(getattr(start, figure), getattr(floor, figure))
+                     for start, floor in zip(starts, empty)]
+            value, floor = (statistics.median(side) for side in zip(*pairs))
+            ratio = statistics.median(one / other for one, other in pairs)
+            print_row(what, f'{people:,}', f'{value:.1f} {unit}', f'{floor:.1f} {unit}',
+                      f'{ratio:.2f}', verdict(ratio, aims.get(people), 'times'))
+
+
+def print_routines(routines):
+    print_row('routine', 'people', 'Ondara', 'floor', 'ratio', 'aim')
+    for what, routine, aims in ROUTINES:
+        for people, times in routines.items():
+            value, floor = times[routine], times[f'{routine}Floor']
+            print_row(what, f'{people:,}', f'{value:.3f} ms', f'{floor:.3f} ms',
+                      f'{value / floor:.2f}', verdict(value, aims.get(people), 'ms'))
+
+
+def print_growth(routines):
+    print_row('growth, per n log n', 'people', 'Ondara', 'floor', '', 'aim')
+    few, many = 1_000, 100_000
+    expected = many * math.log(many) / (few * math.log(few))
+    for what, routine, _ in ROUTINES:
+        growth, floor = (routines[many][name] / routines[few][name] / expected
+                         for name in (routine, f'{routine}Floor'))
+        print_row(what, f'{many:,}', f'{growth:.2f}', f'{floor:.2f}', '',
+                  verdict(growth, GROWTH_AIM, 'times'))
+
+
+def main():
+    programs, schema = (Path(argument).resolve() for argument in sys.argv[1:])
+    with tempfile.TemporaryDirectory(dir=programs) as root:
+        os.environ.setdefault('XDG_RUNTIME_DIR', root)  # Qt asks for one
+        folders = {people: Path(root) / str(people) for people in PEOPLE}
+        for people, folder in folders.items():
+            lay_out(programs, schema, folder, people)
+        starts = measure_starts(programs, folders)
+        routines = {people: measure_routines(folder) for people, folder in folders.items()}
+    print_starts(*starts)
+    print()
+    print_routines(routines)
+    print()
+    print_growth(routines)
+
+
+if __name__ == '__main__':
+    main()

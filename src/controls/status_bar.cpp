@@ -10,6 +10,7 @@
 namespace {
 
 constexpr std::chrono::seconds kClockInterval{1};
+constexpr int kSpaceBeforeText = 6;  // with the bar's own margin, the text stands on the grid
 constexpr int kSpaceBeforePanel = 12;
 
 }  // namespace
@@ -22,6 +23,7 @@ StatusBar::StatusBar(QWidget* parent)
     text_->setObjectName(QStringLiteral("panel1"));
     time_->setObjectName(QStringLiteral("panel2"));
     date_->setObjectName(QStringLiteral("panel3"));
+    text_->setContentsMargins(kSpaceBeforeText, 0, 0, 0);
     time_->setContentsMargins(kSpaceBeforePanel, 0, 0, 0);
     date_->setContentsMargins(kSpaceBeforePanel, 0, 0, 0);
     addWidget(text_, 1);

@@ -51,6 +51,9 @@ void frmMain::setUpControls() {
                                                    modCycles::kPlotBottom - modCycles::kPlotTop));
     ui_->chtMain->setMarkedRow(1);
     ui_->dtpQuickBio->setCustomFormat(QStringLiteral("d MMMM yyyy"));
+    // The chart begins where the list does.
+    ui_->lblTitle->setMinimumHeight(ui_->cbCategory->sizeHint().height());
+    ui_->lstMain->setFocus();
     showPanel(true);
 }
 

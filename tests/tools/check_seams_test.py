@@ -33,6 +33,14 @@ class Seams(MadeUpTree):
         self.write_tested('shell/frmMain', '// No QMessageBox here.\nauto t = "QPrinter";\n')
         self.expect_pass()
 
+    def test_nothing_configures_the_program(self):
+        for use in ('getenv', 'qgetenv', 'qEnvironmentVariableIsSet', 'QSettings',
+                    'QCommandLineParser', 'QCoreApplication::arguments'):
+            with self.subTest(use):
+                self.write_tested('runtime/app', f'// No {use}.\nauto x = {use}();\n')
+                self.expect_objection(
+                    f'src/runtime/app.cpp:2: {use}: nothing configures the program')
+
     def test_sql_is_for_the_store_alone(self):
         for sql in ('SELECT Name FROM Data', 'select * from Data', 'DELETE FROM Data',
                     'INSERT INTO Data', 'UPDATE Data SET CatID', ' ORDER BY Name',

@@ -1,4 +1,4 @@
-"""A program directory of its own for a test, with a home for its user, and starts of the program."""
+"""A program directory of its own for a test, a home for its user, and starts of the program."""
 
 import contextlib
 import hashlib

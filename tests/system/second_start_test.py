@@ -44,14 +44,14 @@ class SecondStart(SystemTestCase):
     def test_is_a_first_one_after_the_first_was_killed(self):
         self.first.kill()
         self.first.wait()
-        self.desktop.until(lambda: not self.desktop.titles(), 'the window of the killed program to go')
+        self.desktop.until(lambda: not self.desktop.titles(), 'the window of the killed one to go')
         self.program.start()
         self.main_window()
 
     def test_of_a_copy_is_no_second_one(self):
         copy = Program.lay_out(self.program.home / 'copy')
         self.program.start(file=copy / 'ondara')
-        self.desktop.until(lambda: self.desktop.titles() == [MAIN_WINDOW] * 2, 'a second main window')
+        self.desktop.until(lambda: self.desktop.titles() == [MAIN_WINDOW] * 2, 'two main windows')
 
 
 if __name__ == '__main__':

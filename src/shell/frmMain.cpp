@@ -49,6 +49,9 @@ void frmMain::setUpControls() {
                                                    modCycles::kPlotRight - modCycles::kPlotLeft,
                                                    modCycles::kPlotBottom - modCycles::kPlotTop));
     ui_->chtMain->setMarkedRow(1);
+    // The chart begins where the list does.
+    ui_->lblTitle->setMinimumHeight(ui_->cbCategory->sizeHint().height());
+    ui_->lstMain->setFocus();
     showPanel(true);
 }
 

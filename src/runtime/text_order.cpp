@@ -99,12 +99,33 @@ bool isSurrogate(int letter) {
     return letter >= 0xD800 && letter < 0xE000;
 }
 
+// Most pairs are decided by two ASCII characters, which need no table: these give one without case.
+constexpr int kNotAscii = -1;
+
+int asciiOf(unsigned unit) {
+    if (unit >= 0x80)
+        return kNotAscii;
+    return static_cast<int>(unit >= 'A' && unit <= 'Z' ? unit - 'A' + 'a' : unit);
+}
+
+int asciiAt(QStringView text, qsizetype place) {
+    return place < text.size() ? asciiOf(text[place].unicode()) : kNotAscii;
+}
+
+int asciiAt(QByteArrayView text, qsizetype place) {
+    return place < text.size() ? asciiOf(static_cast<unsigned char>(text[place])) : kNotAscii;
+}
+
 // The order by the first letters that differ; none if there are none, or not in the first plane.
 template <class Text>
 std::optional<std::weak_ordering> compareLetters(Text a, Text b) {
     const qsizetype start = firstDifference(a, b);
     if (start == a.size() && start == b.size())
         return std::weak_ordering::equivalent;
+    const int asciiA = asciiAt(a, start);
+    const int asciiB = asciiAt(b, start);
+    if (asciiA != asciiB && asciiA != kNotAscii && asciiB != kNotAscii)
+        return asciiA <=> asciiB;
     Letters<Text> lettersA(a, start);
     Letters<Text> lettersB(b, start);
     for (;;) {

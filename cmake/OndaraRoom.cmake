@@ -8,9 +8,9 @@ function(ondara_room name)
   set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON)
 endfunction()
 
-# ondara_test(ROOM [NAME name] SOURCES file... LINKS library...): the tests of one room, which link that
-# room alone, and the support library that brings the main function. A room whose tests need more
-# than one main function names each of its programs.
+# ondara_test(ROOM [NAME name] SOURCES file... LINKS library...): the tests of one room, which link
+# that room alone, and the support library that brings the main function. A room whose tests need
+# more than one main function names each of its programs.
 function(ondara_test room)
   cmake_parse_arguments(TEST "" "NAME" "SOURCES;LINKS" ${ARGN})
   if(NOT TEST_NAME)

@@ -7,13 +7,8 @@
 #include "runtime/event.h"
 #include "shell/start_up.h"
 
-namespace {
-
-int argumentCount = 1;  // the program has no command line: Qt sees the program's name alone
-
-}  // namespace
-
 int main(int, char** arguments) {
+    int argumentCount = 1;  // the program has no command line: Qt sees the program's name alone
     QApplication application(argumentCount, arguments);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/art/ondara.png")));
     DesktopHost desktop;

@@ -1,4 +1,4 @@
-// The chart control.
+// A line chart of up to seven series.
 #pragma once
 
 #include <QWidget>
@@ -7,8 +7,8 @@
 
 enum class MousePointerShape { Default = 0, ArrowQuestion = 14 };
 
-// A line chart of up to seven series, each a column of the table that it is given whole. Series,
-// rows and columns count from 1. What it shows can be read back as plain data from content().
+// Each series is a column of the table that the chart is given whole. Series, rows and columns
+// count from 1. What it shows can be read back as plain data from content().
 class Chart final : public QWidget {
     Q_OBJECT
 

@@ -17,7 +17,7 @@ constexpr double kTurnSine = std::numbers::sqrt2 / 2;
 // In twips.
 constexpr double kValueInset = 45;  // keeps a line at 100 per cent within the plot area
 constexpr double kGap = 75;         // between the axis and its labels, and around the legend
-constexpr double kTickLength = 60;
+constexpr double kTickRoom = 60;    // between the axis and the row labels
 constexpr double kSampleLength = 270;
 constexpr double kLegendSpacing = 210;
 
@@ -133,7 +133,7 @@ double roomForRowLabels(const ChartContent& content, const ChartLayout& layout) 
         !layout.legend.empty() && content.legendLocation == LegendLocation::Bottom;
     const double floor =
         legendIsBelow ? layout.legend.front().textBox.top() : content.size.height();
-    return floor - kGap - content.plotArea.bottom() - kTickLength;
+    return floor - kGap - content.plotArea.bottom() - kTickRoom;
 }
 
 double widestRowLabel(const ChartContent& content, const TextMeasure& measure) {
@@ -151,7 +151,7 @@ ChartRowLabel levelLabel(const ChartContent& content, const TextMeasure& measure
         std::clamp(rowCentre(content, row), width / 2, content.size.width() - width / 2);
     return {row,
             text,
-            {middle, content.plotArea.bottom() + kTickLength},
+            {middle, content.plotArea.bottom() + kTickRoom},
             {-width / 2, 0, width, measure.lineHeight}};
 }
 
@@ -162,7 +162,7 @@ ChartRowLabel turnedLabel(const ChartContent& content, const TextMeasure& measur
     const double corner = measure.lineHeight / 2 * kTurnSine;
     return {row,
             text,
-            {rowCentre(content, row), content.plotArea.bottom() + kTickLength + corner},
+            {rowCentre(content, row), content.plotArea.bottom() + kTickRoom + corner},
             {-width, -measure.lineHeight / 2, width, measure.lineHeight}};
 }
 

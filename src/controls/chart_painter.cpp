@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
+#include <algorithm>
 #include <cmath>
 
 #include "controls/chart_layout.h"

@@ -1,12 +1,11 @@
-// The drop-down list.
+// A list that opens below its selected entry.
 #pragma once
 
 #include <QComboBox>
 
 #include "controls/list_control.h"
 
-// A list that opens below its selected entry. The user's choice fires Click once, also where it is
-// the entry that was selected already.
+// The user's choice fires Click once, also where it is the entry that was selected already.
 class ComboBox final : public QComboBox, public ListControl {
     Q_OBJECT
 

@@ -1,4 +1,4 @@
-// The date picker.
+// A field with a date, which the user types or picks from a calendar that drops down.
 #pragma once
 
 #include <QDateEdit>
@@ -7,16 +7,15 @@
 
 class QuietCalendar;
 
-// A field with a date, which the user types or picks from a calendar that drops down. Change is
-// fired when the user has changed the date.
+// Change is fired when the user has changed the date.
 class DatePicker final : public QDateEdit, public DateControl {
     Q_OBJECT
 
   public:
     explicit DatePicker(QWidget* parent = nullptr);
 
-    // The form in which the date is shown, as "d MMMM yyyy" or "MMMM yyyy", with the names of the
-    // host's locale.
+    // The form in which the date is shown, "d MMMM yyyy" or another such as "MMMM yyyy", with the
+    // names of the host's locale.
     QString CustomFormat() const { return displayFormat(); }
     void setCustomFormat(const QString& format) { setDisplayFormat(format); }
 

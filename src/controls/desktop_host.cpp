@@ -2,6 +2,7 @@
 #include "controls/desktop_host.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QTimer>
 #include <QWindow>
@@ -38,6 +39,18 @@ Answer answerOf(int button) {
     }
 }
 
+constexpr int kBesideTitle = 128;  // pixels, for the picture and the buttons of a frame
+
+// A box is as wide as its text by itself. This one's title is told in full as well.
+void makeRoomForTitle(QMessageBox& box) {
+    const QString title = box.windowTitle();
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    if (title.isEmpty() || !grid)
+        return;
+    const int width = box.fontMetrics().horizontalAdvance(title) + kBesideTitle;
+    grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 // The window that the box waits over: the owner's, or else the one that the user is in.
 QWidget* windowOf(QObject* owner) {
     const auto* widget = qobject_cast<QWidget*>(owner);
@@ -66,6 +79,7 @@ Answer DesktopHost::showMessage(const Message& message) {
     box.setTextFormat(Qt::PlainText);
     box.setText(message.text);
     box.setStandardButtons(buttonsOf(message.buttons));
+    makeRoomForTitle(box);
     return answerOf(box.exec());
 }
 

@@ -1,14 +1,14 @@
-// The list box.
+// A list on the screen of which the user may select one entry.
 #pragma once
 
 #include <QListView>
 
 #include "controls/list_control.h"
 
-// A list on the screen of which the user may select one entry. A click on an entry and a key that
-// selects another fire Click once; a click on the selected entry fires it again. The entry of the
-// focus is the selected one, or the first: there is one for screen readers as long as the list has
-// entries, but without a selection it is not shown as selected and the next arrow key selects it.
+// A click on an entry and a key that selects another fire Click once; a click on the selected entry
+// fires it again. The entry of the focus is the selected one, or the first: there is one for screen
+// readers as long as the list has entries, but without a selection it is not shown as selected and
+// the next arrow key selects it.
 class ListBox final : public QListView, public ListControl {
     Q_OBJECT
 

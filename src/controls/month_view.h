@@ -1,11 +1,11 @@
-// The month calendar.
+// A month on the screen, of which one day is selected.
 #pragma once
 
 #include "controls/date_control.h"
 #include "controls/quiet_calendar.h"
 
-// A month on the screen, of which one day is selected. SelChange is fired when the user picks
-// another day, by mouse or keys. Turning the page to another month picks nothing.
+// SelChange is fired when the user picks another day, by mouse or keys. Turning the page to another
+// month picks nothing.
 class MonthView final : public QuietCalendar, public DateControl {
     Q_OBJECT
 

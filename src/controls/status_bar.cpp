@@ -10,7 +10,14 @@
 namespace {
 
 constexpr std::chrono::seconds kClockInterval{1};
+constexpr int kSpaceAtEdge = 6;  // with the bar's own margin, the texts stand on the grid
 constexpr int kSpaceBeforePanel = 12;
+constexpr double kFontScale = 0.9;  // the values of a day fit beside the clock
+
+QFont smaller(QFont font) {
+    font.setPointSizeF(font.pointSizeF() * kFontScale);
+    return font;
+}
 
 }  // namespace
 
@@ -19,11 +26,14 @@ StatusBar::StatusBar(QWidget* parent)
       text_(new ElidedLabel(this)),
       time_(new QLabel(this)),
       date_(new QLabel(this)) {
+    setFont(smaller(font()));
+    setSizeGripEnabled(false);
     text_->setObjectName(QStringLiteral("panel1"));
     time_->setObjectName(QStringLiteral("panel2"));
     date_->setObjectName(QStringLiteral("panel3"));
+    text_->setContentsMargins(kSpaceAtEdge, 0, 0, 0);
     time_->setContentsMargins(kSpaceBeforePanel, 0, 0, 0);
-    date_->setContentsMargins(kSpaceBeforePanel, 0, 0, 0);
+    date_->setContentsMargins(kSpaceBeforePanel, 0, kSpaceAtEdge, 0);
     addWidget(text_, 1);
     addPermanentWidget(time_);
     addPermanentWidget(date_);

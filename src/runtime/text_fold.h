@@ -23,8 +23,8 @@ class Fold {
         return fold;
     }
 
-    const char16_t* begin() const { return letters_.data(); }
-    const char16_t* end() const { return letters_.data() + length_; }
+    const char16_t* begin() const { return letters_.begin(); }
+    const char16_t* end() const { return letters_.begin() + length_; }
 
   private:
     void make(QChar character);

@@ -95,7 +95,7 @@ qsizetype firstDifference(Text a, Text b) {
     return place;
 }
 
-bool isSurrogate(int letter) {
+bool isHalfCharacter(int letter) {
     return letter >= 0xD800 && letter < 0xE000;
 }
 
@@ -131,7 +131,7 @@ std::optional<std::weak_ordering> compareLetters(Text a, Text b) {
     for (;;) {
         const int letterA = lettersA.next();
         const int letterB = lettersB.next();
-        if (isSurrogate(letterA) || isSurrogate(letterB))
+        if (isHalfCharacter(letterA) || isHalfCharacter(letterB))
             return std::nullopt;
         if (letterA != letterB)
             return letterA <=> letterB;

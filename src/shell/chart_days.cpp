@@ -32,6 +32,14 @@ QString chartTitle(const QString& fullName) {
     return QStringLiteral("Biorhythm for ") + fullName;
 }
 
+QString quickChartTitle() {
+    return QStringLiteral("Quick biorhythm");
+}
+
+QString blankChartTitle() {
+    return chartTitle(QStringLiteral("<unspecified>"));
+}
+
 QString dayPanelText(const ChartDay& day) {
     return host().shortDate(day.date) + QStringLiteral(":   Emotional: ") +
            percentText(day.values.emotional) + QStringLiteral(", Physical: ") +

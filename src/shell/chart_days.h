@@ -22,8 +22,10 @@ std::array<ChartDay, kChartDays> chartDays(Date birthdate, Date startdate);
 // The days of the blank chart: those of a person who is born today.
 std::array<ChartDay, kChartDays> blankChartDays(Date today);
 
-// The title above a person's chart.
+// The title above a person's chart, above one of a date that was typed, and above the blank one.
 QString chartTitle(const QString& fullName);
+QString quickChartTitle();
+QString blankChartTitle();
 
 // A day's four values, rounded, for the status bar.
 QString dayPanelText(const ChartDay& day);

@@ -28,6 +28,19 @@ Date moved(Date date, ScrollUnit unit, Integer steps) {
 
 }  // namespace
 
+QStringList scrollUnitNames() {
+    return {QStringLiteral("Days"), QStringLiteral("Weeks"), QStringLiteral("Months"),
+            QStringLiteral("Years")};
+}
+
+std::optional<ScrollUnit> scrollUnitAt(int listIndex) {
+    return listIndex == -1 ? std::nullopt : std::optional(static_cast<ScrollUnit>(listIndex));
+}
+
+QString scrollUnitIsMissing() {
+    return QStringLiteral("Please select a unit from the dropdown box");
+}
+
 Date increasedDate(Date date, ScrollUnit unit) {
     return moved(date, unit, 1);
 }

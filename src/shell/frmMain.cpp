@@ -43,14 +43,15 @@ frmMain::~frmMain() {
 void frmMain::setUpControls() {
     ui_->lstMain->setSorted(true);
     ui_->cbCategory->setSorted(true);
-    for (const QString& unit : {QStringLiteral("Days"), QStringLiteral("Weeks"),
-                                QStringLiteral("Months"), QStringLiteral("Years")})
+    for (const QString& unit : modCycles::scrollUnitNames())
         ui_->cmbScroll->AddItem(unit);
     ui_->chtMain->setFixedTwips(kChartSize, QRectF(modCycles::kPlotLeft, modCycles::kPlotTop,
                                                    modCycles::kPlotRight - modCycles::kPlotLeft,
                                                    modCycles::kPlotBottom - modCycles::kPlotTop));
     ui_->chtMain->setMarkedRow(1);
-    ui_->dtpQuickBio->setCustomFormat(QStringLiteral("d MMMM yyyy"));
+    // The chart begins where the list does.
+    ui_->lblTitle->setMinimumHeight(ui_->cbCategory->sizeHint().height());
+    ui_->lstMain->setFocus();
     showPanel(true);
 }
 
@@ -105,7 +106,7 @@ void frmMain::chartQuickBirthdate() {
                             .owner = this});
         return;
     }
-    chartBirthdate(birthdate, QStringLiteral("Quick biorhythm"));
+    chartBirthdate(birthdate, modCycles::quickChartTitle());
 }
 
 void frmMain::chartSelectedPerson() {
@@ -138,12 +139,10 @@ void frmMain::dtpSelDate_SelChange() {
 std::optional<modCycles::ScrollUnit> frmMain::scrollUnit() {
     if (ui_->lstMain->ListIndex() == -1)
         return std::nullopt;
-    if (ui_->cmbScroll->ListIndex() == -1) {
-        host().showMessage(
-            {.text = QStringLiteral("Please select a unit from the dropdown box"), .owner = this});
-        return std::nullopt;
-    }
-    return static_cast<modCycles::ScrollUnit>(ui_->cmbScroll->ListIndex());
+    const auto unit = modCycles::scrollUnitAt(ui_->cmbScroll->ListIndex());
+    if (!unit)
+        host().showMessage({.text = modCycles::scrollUnitIsMissing(), .owner = this});
+    return unit;
 }
 
 void frmMain::cmdDecrease_Click() {

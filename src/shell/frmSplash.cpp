@@ -1,4 +1,4 @@
-// The splash window.
+// The picture, and the key that ends it.
 #include "shell/frmSplash.h"
 
 #include <QKeyEvent>
@@ -9,7 +9,7 @@
 frmSplash::frmSplash() {
     setObjectName(QStringLiteral("frmSplash"));
     setWindowFlags(Qt::SplashScreen);
-    setAccessibleName(tr("Ondara is starting"));
+    setAccessibleName(QStringLiteral("Ondara is starting"));
     auto* picture = new QLabel(this);
     picture->setPixmap(QPixmap(QStringLiteral(":/art/splash.png")));
     auto* layout = new QVBoxLayout(this);

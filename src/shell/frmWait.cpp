@@ -1,4 +1,4 @@
-// The wait window.
+// The picture and the text, and the click that ends them.
 #include "shell/frmWait.h"
 
 #include <QHBoxLayout>

@@ -44,7 +44,7 @@ void RedrawMainChart(Date birthdate, Date startdate) {
 void ShowBlankChart() {
     const Date today = host().today();
     mainControls().dtpSelDate->setValue(today);
-    mainControls().lblTitle->setText(chartTitle(QStringLiteral("<unspecified>")));
+    mainControls().lblTitle->setText(blankChartTitle());
     draw(blankChartDays(today));
 }
 

@@ -1,4 +1,4 @@
-// Main.
+// The start, step by step.
 #include "shell/start_up.h"
 
 #include "runtime/app.h"

@@ -207,15 +207,15 @@ void Recordset::MoveLast() {
 }
 
 void Recordset::MoveNext() {
-    open().cursor.move(1);
+    open().cursor.moveBy(1);
 }
 
 void Recordset::MovePrevious() {
-    open().cursor.move(-1);
+    open().cursor.moveBy(-1);
 }
 
 void Recordset::Move(Long rows) {
-    open().cursor.move(rows);
+    open().cursor.moveBy(rows);
 }
 
 void Recordset::Find(const QString& criteria) {
@@ -224,7 +224,7 @@ void Recordset::Find(const QString& criteria) {
     const int field = set.fieldNamed(criterion.field());
     RowId row = set.currentRow();
     while (!set.rowFulfils(row, field, criterion)) {
-        set.cursor.move(1);
+        set.cursor.moveBy(1);
         if (set.cursor.isBehindLast())
             return;
         row = set.currentRow();

@@ -36,7 +36,7 @@ void RowCursor::moveLast() {
     place_ = count() - 1;
 }
 
-void RowCursor::move(Long rows) {
+void RowCursor::moveBy(Long rows) {
     if (rows == 0)
         return;
     if (rows > 0 ? isBehindLast() : isBeforeFirst())

@@ -26,7 +26,7 @@ class RowCursor {
     // These raise 3021 as recordset.h says.
     void moveFirst();
     void moveLast();
-    void move(Long rows);
+    void moveBy(Long rows);
 
     void moveBehindLast();
 

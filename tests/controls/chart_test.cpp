@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "runtime/event.h"
-#include "support/error_number.h"
+#include "support/errors.h"
 #include "support/recording_host.h"
 #include "support/widget_driver.h"
 
@@ -46,7 +46,7 @@ TEST_F(ChartTest, GivesItsValuesBackByRowAndColumnCountedFromOne) {
 TEST_F(ChartTest, RaisesAnErrorForAValueOutsideItsTable) {
     chart_.setChartData(smallTable());
     for (const auto& [row, column] : {std::pair{0, 1}, {3, 1}, {1, 0}, {1, 4}, {-1, 1}})
-        EXPECT_EQ(errorNumberOf([&] { (void)chart_.Data(row, column); }), 381) << row << column;
+        EXPECT_EQ(errorOf([&] { (void)chart_.Data(row, column); }), 381) << row << column;
 }
 
 TEST_F(ChartTest, TakesSevenSeriesAndNoMore) {
@@ -54,9 +54,9 @@ TEST_F(ChartTest, TakesSevenSeriesAndNoMore) {
     chart_.setChartData(table);
     EXPECT_EQ(chart_.Data(1, 7), 5);
     table.columns.push_back({6.0});
-    EXPECT_EQ(errorNumberOf([&] { chart_.setChartData(table); }), 380);
-    EXPECT_EQ(errorNumberOf([&] { chart_.setLegendText(8, QStringLiteral("eighth")); }), 381);
-    EXPECT_EQ(errorNumberOf([&] { chart_.setSeriesPattern(0, PenPattern::Dotted); }), 381);
+    EXPECT_EQ(errorOf([&] { chart_.setChartData(table); }), 380);
+    EXPECT_EQ(errorOf([&] { chart_.setLegendText(8, QStringLiteral("eighth")); }), 381);
+    EXPECT_EQ(errorOf([&] { chart_.setSeriesPattern(0, PenPattern::Dotted); }), 381);
 }
 
 TEST_F(ChartTest, GivesTheFirstFourSeriesTheColoursOfTheCyclesInTheirOrder) {

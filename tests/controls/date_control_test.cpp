@@ -6,7 +6,7 @@
 #include "controls/date_picker.h"
 #include "controls/month_view.h"
 #include "runtime/qt_dates.h"
-#include "support/error_number.h"
+#include "support/errors.h"
 #include "support/event_counter.h"
 #include "support/recording_host.h"
 
@@ -106,7 +106,7 @@ TYPED_TEST(DateControls, ClampAValueBelowTheMinDateToIt) {
 }
 
 TYPED_TEST(DateControls, RefuseAMinDateBefore1753) {
-    EXPECT_EQ(errorNumberOf([&] { this->control_.setMinDate(DateSerial(1752, 12, 31)); }), 380);
+    EXPECT_EQ(errorOf([&] { this->control_.setMinDate(DateSerial(1752, 12, 31)); }), 380);
     EXPECT_EQ(this->control_.MinDate(), DateSerial(1753, 1, 1));
 }
 

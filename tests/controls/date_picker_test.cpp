@@ -27,6 +27,7 @@ class DatePickerTest : public testing::Test {
 
 TEST_F(DatePickerTest, ShowsTheDateInItsFormWithTheNamesOfTheHost) {
     EXPECT_EQ(picker_.text(), QStringLiteral("14 March 2000"));
+    EXPECT_EQ(picker_.CustomFormat(), QStringLiteral("d MMMM yyyy"));
     picker_.setCustomFormat(QStringLiteral("MMMM yyyy"));
     EXPECT_EQ(picker_.text(), QStringLiteral("March 2000"));
     EXPECT_EQ(picker_.CustomFormat(), QStringLiteral("MMMM yyyy"));

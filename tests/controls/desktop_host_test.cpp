@@ -43,6 +43,14 @@ TEST_F(DesktopHostTest, ShowsTextTitleIconAndButtons) {
     EXPECT_EQ(answer, Answer::Ok);
 }
 
+TEST_F(DesktopHostTest, IsWideEnoughForItsTitle) {
+    const QString title = QStringLiteral("The requested application is already open");
+    answered({.text = QStringLiteral("No."), .title = title}, QMessageBox::Ok,
+             [&](const QMessageBox& box) {
+                 EXPECT_GT(box.width(), box.fontMetrics().horizontalAdvance(title) + 100);
+             });
+}
+
 TEST_F(DesktopHostTest, HasNoIconAndNoTitleUnlessTheyAreAskedFor) {
     answered({.text = QStringLiteral("Well?")}, QMessageBox::Ok, [](const QMessageBox& box) {
         EXPECT_EQ(box.icon(), QMessageBox::NoIcon);

@@ -5,7 +5,7 @@
 
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
-#include "support/error_number.h"
+#include "support/errors.h"
 #include "support/event_counter.h"
 #include "support/recording_host.h"
 
@@ -106,17 +106,17 @@ TYPED_TEST(Lists, CanBeFilledAnewWithinTheirClick) {
 
 TYPED_TEST(Lists, RaiseInvalidPropertyValueForAnIndexBeyondTheEntries) {
     for (const int index : {3, 100, -2})
-        EXPECT_EQ(errorNumberOf([&] { this->list_.setListIndex(index); }), 380) << index;
+        EXPECT_EQ(errorOf([&] { this->list_.setListIndex(index); }), 380) << index;
     this->list_.Clear();
-    EXPECT_EQ(errorNumberOf([&] { this->list_.setListIndex(0); }), 380);
+    EXPECT_EQ(errorOf([&] { this->list_.setListIndex(0); }), 380);
     EXPECT_EQ(this->clicks_.fired(), 0);
 }
 
 TYPED_TEST(Lists, RaiseInvalidPropertyArrayIndexForItemDataThatIsNotThere) {
-    EXPECT_EQ(errorNumberOf([&] { (void)this->list_.ItemData(this->list_.ListIndex()); }), 381);
-    EXPECT_EQ(errorNumberOf([&] { (void)this->list_.ItemData(3); }), 381);
-    EXPECT_EQ(errorNumberOf([&] { this->list_.setItemData(-1, 5); }), 381);
-    EXPECT_EQ(errorNumberOf([&] { (void)this->list_.List(3); }), 381);
+    EXPECT_EQ(errorOf([&] { (void)this->list_.ItemData(this->list_.ListIndex()); }), 381);
+    EXPECT_EQ(errorOf([&] { (void)this->list_.ItemData(3); }), 381);
+    EXPECT_EQ(errorOf([&] { this->list_.setItemData(-1, 5); }), 381);
+    EXPECT_EQ(errorOf([&] { (void)this->list_.List(3); }), 381);
 }
 
 TYPED_TEST(Lists, SelectTheFirstEntryWithExactlyTheTextThatIsSet) {
@@ -167,8 +167,8 @@ TYPED_TEST(Lists, LoseTheSelectionWithItsEntryAndFireNothing) {
 }
 
 TYPED_TEST(Lists, RaiseAnErrorForRemovingAnEntryThatIsNotThere) {
-    EXPECT_EQ(errorNumberOf([&] { this->list_.RemoveItem(3); }), 5);
-    EXPECT_EQ(errorNumberOf([&] { this->list_.RemoveItem(-1); }), 5);
+    EXPECT_EQ(errorOf([&] { this->list_.RemoveItem(3); }), 5);
+    EXPECT_EQ(errorOf([&] { this->list_.RemoveItem(-1); }), 5);
     EXPECT_EQ(this->list_.ListCount(), 3);
 }
 

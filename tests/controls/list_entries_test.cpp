@@ -8,7 +8,7 @@
 #include <rapidcheck/gtest.h>
 
 #include "runtime/text_order.h"
-#include "support/error_number.h"
+#include "support/errors.h"
 
 namespace {
 
@@ -109,11 +109,11 @@ TEST(ListEntries, AreFoundByExactlyTheirTextAndTheFirstOfEqualOnes) {
 TEST(ListEntries, RaiseAnErrorForAnIndexThatHasNoEntry) {
     ListEntries entries = sortedEntries({{QStringLiteral("one")}});
     for (const int index : {-1, 1, 1000}) {
-        EXPECT_EQ(errorNumberOf([&] { (void)entries.itemData(index); }), 381) << index;
-        EXPECT_EQ(errorNumberOf([&] { (void)entries.text(index); }), 381) << index;
-        EXPECT_EQ(errorNumberOf([&] { entries.setItemData(index, 1); }), 381) << index;
+        EXPECT_EQ(errorOf([&] { (void)entries.itemData(index); }), 381) << index;
+        EXPECT_EQ(errorOf([&] { (void)entries.text(index); }), 381) << index;
+        EXPECT_EQ(errorOf([&] { entries.setItemData(index, 1); }), 381) << index;
     }
-    EXPECT_EQ(errorNumberOf([&] { (void)entries.itemData(0); }), 0);
+    EXPECT_EQ(errorOf([&] { (void)entries.itemData(0); }), 0);
 }
 
 TEST(ListEntries, ThatAreThereGetIntoOrderWhenTheListBecomesSorted) {

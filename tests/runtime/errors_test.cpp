@@ -31,8 +31,16 @@ const std::map<int, std::string> kClassicalTexts{
     {3021,
      "Either BOF or EOF is True, or the current record has been deleted. Requested operation "
      "requires a current record."},
+    {3251,
+     "Current Recordset does not support updating. This may be a limitation of the provider, or of "
+     "the selected locktype."},
     {3265,
      "Item cannot be found in the collection corresponding to the requested name or ordinal."},
+    {3704, "Operation is not allowed when the object is closed."},
+    {3719, "Data value conflicts with the integrity constraints of the field"},
+    {-2147217864,
+     "Row cannot be located for updating. Some values may have been changed since it was last "
+     "read."},
 };
 
 }  // namespace

@@ -30,6 +30,22 @@ class LocalHost final : public BareMachineHost {
     QLocale locale_;
 };
 
+// The machine's time zone, so many hours after Greenwich, for as long as it lives.
+class ZoneOfHours {
+  public:
+    explicit ZoneOfHours(int hours) { qputenv("TZ", "UTC-" + QByteArray::number(hours)); }
+    ~ZoneOfHours() { wasSet_ ? qputenv("TZ", before_) : qunsetenv("TZ"); }
+    Q_DISABLE_COPY_MOVE(ZoneOfHours)
+
+  private:
+    const bool wasSet_ = qEnvironmentVariableIsSet("TZ");
+    const QByteArray before_ = qgetenv("TZ");
+};
+
+Date hoursAfterGreenwich(int hours) {
+    return fromQDateTime(QDateTime::currentDateTimeUtc().addSecs(qint64{3600} * hours));
+}
+
 QString shortDateIn(const QString& locale) {
     return LocalHost(locale).shortDate(DateSerial(1900, 3, 4));
 }
@@ -81,11 +97,11 @@ class AnotherInstance : public testing::Test {
 }  // namespace
 
 TEST(MachineHost, ReadsTheClockInTheLocalTimeZone) {
-    const QDateTime before = QDateTime::currentDateTime();
+    const ZoneOfHours zone(5);
+    const Date before = hoursAfterGreenwich(5);
     const Date now = BareMachineHost().now();
-    const QDateTime after = QDateTime::currentDateTime();
-    EXPECT_LE(fromQDateTime(before), now);
-    EXPECT_LE(now, fromQDateTime(after));
+    EXPECT_LE(before, now);
+    EXPECT_LE(now, hoursAfterGreenwich(5));
 }
 
 TEST(MachineHost, WritesAShortDateInTheOrderOfTheLocale) {

@@ -8,7 +8,7 @@
 #include <cmath>
 #include <limits>
 
-#include "runtime/errors.h"
+#include "support/errors.h"
 
 namespace {
 
@@ -22,15 +22,6 @@ class GermanDefault {
   private:
     QLocale before_;
 };
-
-int errorNumberOf(double value) {
-    try {
-        Round(value);
-        return 0;
-    } catch (const RuntimeError& error) {
-        return error.number;
-    }
-}
 
 }  // namespace
 
@@ -55,10 +46,10 @@ TEST(Round, RaisesAnOverflowOutsideOf32Bits) {
     EXPECT_EQ(Round(2147483647.0), 2147483647);
     EXPECT_EQ(Round(-2147483648.0), std::numeric_limits<Long>::min());
     EXPECT_EQ(Round(2147483647.4), 2147483647);
-    EXPECT_EQ(errorNumberOf(2147483647.5), 6);
-    EXPECT_EQ(errorNumberOf(-2147483649.0), 6);
-    EXPECT_EQ(errorNumberOf(std::numeric_limits<double>::infinity()), 6);
-    EXPECT_EQ(errorNumberOf(std::numeric_limits<double>::quiet_NaN()), 6);
+    EXPECT_EQ(errorOf([] { Round(2147483647.5); }), 6);
+    EXPECT_EQ(errorOf([] { Round(-2147483649.0); }), 6);
+    EXPECT_EQ(errorOf([] { Round(std::numeric_limits<double>::infinity()); }), 6);
+    EXPECT_EQ(errorOf([] { Round(std::numeric_limits<double>::quiet_NaN()); }), 6);
 }
 
 RC_GTEST_PROP(Round, IsNeverMoreThanAHalfAway, (Long thousandths)) {

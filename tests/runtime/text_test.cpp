@@ -3,23 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <utility>
 
-#include "runtime/errors.h"
-
-namespace {
-
-int errorNumberOf(const std::function<void()>& call) {
-    try {
-        call();
-        return 0;
-    } catch (const RuntimeError& error) {
-        return error.number;
-    }
-}
-
-}  // namespace
+#include "support/errors.h"
 
 TEST(Trim, RemovesBlanksFromBothEnds) {
     EXPECT_EQ(Trim(QStringLiteral("  Anna  Maria ")), QStringLiteral("Anna  Maria"));
@@ -46,7 +32,7 @@ TEST(Left, TakesTheFirstCharacters) {
 }
 
 TEST(Left, RaisesForANegativeLength) {
-    EXPECT_EQ(errorNumberOf([] { Left(QStringLiteral("Smith"), -1); }), 5);
+    EXPECT_EQ(errorOf([] { Left(QStringLiteral("Smith"), -1); }), 5);
 }
 
 TEST(Mid, CountsFromOne) {
@@ -57,8 +43,8 @@ TEST(Mid, CountsFromOne) {
 }
 
 TEST(Mid, RaisesForAPositionBelowOne) {
-    EXPECT_EQ(errorNumberOf([] { Mid(QStringLiteral("Smith"), 0); }), 5);
-    EXPECT_EQ(errorNumberOf([] { Mid(QStringLiteral("Smith"), -1); }), 5);
+    EXPECT_EQ(errorOf([] { Mid(QStringLiteral("Smith"), 0); }), 5);
+    EXPECT_EQ(errorOf([] { Mid(QStringLiteral("Smith"), -1); }), 5);
 }
 
 TEST(InStr, CountsFromOneAndGivesZeroForNothingFound) {
@@ -104,8 +90,8 @@ TEST(Val, KnowsTheTenDigitsAlone) {
 }
 
 TEST(Val, RaisesAnOverflowBeyondADouble) {
-    EXPECT_EQ(errorNumberOf([] { Val(QStringLiteral("1e400")); }), 6);
-    EXPECT_EQ(errorNumberOf([] { Val(QStringLiteral("-1e400")); }), 6);
+    EXPECT_EQ(errorOf([] { Val(QStringLiteral("1e400")); }), 6);
+    EXPECT_EQ(errorOf([] { Val(QStringLiteral("-1e400")); }), 6);
 }
 
 TEST(Val, TakesANumberTooSmallForADoubleForZero) {

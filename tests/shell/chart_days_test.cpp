@@ -57,6 +57,11 @@ TEST(ChartTitle, NamesThePerson) {
     EXPECT_EQ(chartTitle(QStringLiteral("Anna Smith")), QStringLiteral("Biorhythm for Anna Smith"));
 }
 
+TEST(ChartTitle, TellsAQuickChartAndABlankOneFromAPersons) {
+    EXPECT_EQ(quickChartTitle(), QStringLiteral("Quick biorhythm"));
+    EXPECT_EQ(blankChartTitle(), QStringLiteral("Biorhythm for <unspecified>"));
+}
+
 class DayTexts : public testing::Test {
   protected:
     RecordingHost host_;

@@ -4,12 +4,31 @@
 #include <gtest/gtest.h>
 
 #include "cycles/calendar.h"
+#include "support/printing.h"
 
 using namespace modCycles;
 
 namespace {
 
 constexpr Date kLongAgo = kEarliestCalendarDate;
+
+TEST(ScrollUnit, StandsInTheListAtThePlaceOfItsName) {
+    const QStringList names = scrollUnitNames();
+    EXPECT_EQ(names, QStringList({QStringLiteral("Days"), QStringLiteral("Weeks"),
+                                  QStringLiteral("Months"), QStringLiteral("Years")}));
+    const auto unitNamed = [&](const QString& name) {
+        return scrollUnitAt(static_cast<int>(names.indexOf(name)));
+    };
+    EXPECT_EQ(unitNamed(QStringLiteral("Days")), ScrollUnit::Days);
+    EXPECT_EQ(unitNamed(QStringLiteral("Weeks")), ScrollUnit::Weeks);
+    EXPECT_EQ(unitNamed(QStringLiteral("Months")), ScrollUnit::Months);
+    EXPECT_EQ(unitNamed(QStringLiteral("Years")), ScrollUnit::Years);
+}
+
+TEST(ScrollUnit, IsAskedForWhereNoneIsChosen) {
+    EXPECT_EQ(scrollUnitAt(-1), std::nullopt);
+    EXPECT_EQ(scrollUnitIsMissing(), QStringLiteral("Please select a unit from the dropdown box"));
+}
 
 TEST(DateScroll, MovesByDaysAndWeeks) {
     EXPECT_EQ(increasedDate(DateSerial(2000, 2, 28), ScrollUnit::Days), DateSerial(2000, 2, 29));

@@ -3,10 +3,9 @@
 #include "shell/frmMain.h"
 
 #include <QAction>
+#include <QFile>
 #include <QLabel>
-#include <QMenu>
 #include <QPushButton>
-#include <QToolBar>
 
 #include "controls/chart.h"
 #include "controls/combo_box.h"
@@ -63,6 +62,7 @@ TEST_F(MainWindow, StartsWithTodayAndWithoutAPerson) {
     EXPECT_EQ(control<DatePicker>("dtpQuickBio").Value(), DateSerial(2000, 3, 14));
     EXPECT_EQ(control<ComboBox>("cmbScroll").Text(), QStringLiteral("Days"));
     EXPECT_EQ(control<ComboBox>("cmbScroll").ListCount(), 4);
+    EXPECT_EQ(control<DatePicker>("dtpQuickBio").CustomFormat(), QStringLiteral("d MMMM yyyy"));
     EXPECT_TRUE(control<QAction>("mnuViewHide").isChecked());
     EXPECT_TRUE(control<QAction>("tlbMain_Hide").isChecked());
 }

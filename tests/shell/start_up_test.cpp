@@ -1,8 +1,9 @@
 // The start of the program.
 #include "shell/start_up.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 
 #include "controls/form.h"
 #include "runtime/event.h"

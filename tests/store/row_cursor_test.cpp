@@ -26,34 +26,34 @@ TEST(RowCursor, IsAtBothEndsWithoutRows) {
 
 TEST(RowCursor, MovesOneBeyondEitherEndAndNoFurther) {
     RowCursor cursor(3);
-    cursor.move(10);
+    cursor.moveBy(10);
     EXPECT_TRUE(cursor.isBehindLast());
     EXPECT_EQ(cursor.absolutePosition(), -3);
-    EXPECT_THROW(cursor.move(1), RuntimeError);
-    cursor.move(-1);
+    EXPECT_THROW(cursor.moveBy(1), RuntimeError);
+    cursor.moveBy(-1);
     EXPECT_EQ(cursor.current(), 3);
-    cursor.move(-10);
+    cursor.moveBy(-10);
     EXPECT_TRUE(cursor.isBeforeFirst());
     EXPECT_EQ(cursor.absolutePosition(), -2);
-    EXPECT_THROW(cursor.move(-1), RuntimeError);
+    EXPECT_THROW(cursor.moveBy(-1), RuntimeError);
 }
 
 TEST(RowCursor, StandsInTheGapOfARemovedRowUntilItMoves) {
     RowCursor cursor(3);
-    cursor.move(1);
+    cursor.moveBy(1);
     cursor.removeCurrent();
     EXPECT_EQ(cursor.current(), std::nullopt);
     EXPECT_FALSE(cursor.isBeforeFirst());
     EXPECT_FALSE(cursor.isBehindLast());
-    cursor.move(1);
+    cursor.moveBy(1);
     EXPECT_EQ(cursor.current(), 3);
 }
 
 TEST(RowCursor, GoesBackFromAGapToTheRowBeforeIt) {
     RowCursor cursor(3);
-    cursor.move(1);
+    cursor.moveBy(1);
     cursor.removeCurrent();
-    cursor.move(-1);
+    cursor.moveBy(-1);
     EXPECT_EQ(cursor.current(), 1);
 }
 

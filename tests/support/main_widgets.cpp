@@ -1,13 +1,18 @@
-// The main function of tests that need widgets: no display, one font size, one style.
+// The main function of tests that need widgets: no display, one scale, one font size, one style.
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFont>
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_SCALE_FACTOR", "1");
+    qputenv("QT_FONT_DPI", "96");
     QApplication application(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
+    QFont font;
+    font.setPixelSize(12);
+    QApplication::setFont(font);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

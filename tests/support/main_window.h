@@ -5,10 +5,10 @@
 
 #include <memory>
 
-#include "support/widget_driver.h"
 #include "support/people.h"
 #include "support/program_directory.h"
 #include "support/recording_host.h"
+#include "support/widget_driver.h"
 
 class frmMain;
 

@@ -1,4 +1,4 @@
-// The recording host.
+// The fixed day, and the record of boxes.
 #include "support/recording_host.h"
 
 #include <gtest/gtest.h>

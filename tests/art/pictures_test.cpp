@@ -45,7 +45,7 @@ double luminance(QRgb colour) {
 
 // The contrast of two colours, from 1 for none to 21 for black and white.
 double contrast(QRgb one, QRgb other) {
-    const auto [darker, lighter] = std::minmax(luminance(one), luminance(other));
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 

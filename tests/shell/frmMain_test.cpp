@@ -3,6 +3,7 @@
 #include "shell/frmMain.h"
 
 #include <QAction>
+#include <QDir>
 #include <QLabel>
 #include <QMenu>
 #include <QToolBar>
@@ -259,7 +260,7 @@ TEST_F(MainWindow, EndsTheProgramWithoutItsDatabase) {
     QFile::remove(directory_.people());
     host_.expectMessage(
         QStringLiteral("Run-time error '53':\n\nFile not found: there is no file of this name, %1")
-            .arg(directory_.people()));
+            .arg(QDir::toNativeSeparators(directory_.people())));
     load();
     EXPECT_EQ(host_.exitCode(), 1);
 }

@@ -59,7 +59,7 @@ void refuseUnfit(const FileCondition& condition, Access access, const QString& p
 
 Connection::Connection(const QString& connectionString, Access access)
     : path_(pathOfDataSource(dataSource(connectionString))) {
-    FileCondition condition = conditionOf(path_);
+    FileCondition condition = conditionOf(path_, access);
     refuseUnfit(condition, access, path_);
     database_ = raisingStoreErrors(path_, [&] { return openDatabase(path_, access); });
     // SQLite knows of protections that the file's permissions do not show.

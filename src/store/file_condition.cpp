@@ -2,25 +2,31 @@
 #include "store/file_condition.h"
 
 #include <QFileInfo>
+#include <QTemporaryFile>
 
 #include "store/file_error.h"
 
 namespace {
 
+// Tried and not asked: on Windows a folder's read-only attribute says nothing of it.
+bool canMakeFileIn(const QString& folder) {
+    return QTemporaryFile(folder + QStringLiteral("/XXXXXX")).open();
+}
+
 bool canHaveJournal(const QFileInfo& file) {
-    return QFileInfo(file.path()).isWritable() &&
+    return canMakeFileIn(file.path()) &&
            !QFileInfo(file.filePath() + QStringLiteral("-journal")).isDir();
 }
 
 }  // namespace
 
-FileCondition conditionOf(const QString& path) {
+FileCondition conditionOf(const QString& path, Access access) {
     const QFileInfo file(path);
     return {.exists = file.exists(),
             .isFolder = file.isDir(),
             .isEmpty = file.size() == 0,
             .isWritable = file.isWritable(),
-            .canHaveJournal = canHaveJournal(file)};
+            .canHaveJournal = access == Access::Read || canHaveJournal(file)};
 }
 
 std::optional<RuntimeError> objectionTo(const FileCondition& condition, Access access,

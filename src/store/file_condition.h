@@ -7,7 +7,7 @@
 #include "runtime/errors.h"
 #include "store/connection.h"
 
-// What the file system says of a path.
+// What the file system says of a path to one who reads it, or reads and writes.
 struct FileCondition {
     bool exists = true;
     bool isFolder = false;
@@ -16,7 +16,9 @@ struct FileCondition {
     bool canHaveJournal = true;  // a file in the same folder, which undoes a write that fails
 };
 
-FileCondition conditionOf(const QString& path);
+// The condition for that access. A journal is none of a reader's business, so then it is not tried
+// for.
+FileCondition conditionOf(const QString& path, Access access);
 
 // Why a file in this condition cannot be opened for that access; nothing if it can.
 std::optional<RuntimeError> objectionTo(const FileCondition& condition, Access access,

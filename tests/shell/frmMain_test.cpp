@@ -3,6 +3,7 @@
 #include "shell/frmMain.h"
 
 #include <QAction>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QPushButton>
@@ -293,7 +294,7 @@ TEST_F(MainWindow, EndsTheProgramWithoutItsDatabase) {
     QFile::remove(directory_.people());
     host_.expectMessage(
         QStringLiteral("Run-time error '53':\n\nFile not found: there is no file of this name, %1")
-            .arg(directory_.people()));
+            .arg(QDir::toNativeSeparators(directory_.people())));
     load();
     EXPECT_EQ(host_.exitCode(), 1);
 }

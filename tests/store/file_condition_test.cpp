@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "support/read_only_folder.h"
+
 namespace {
 
 const QString kPath = QStringLiteral("/people/Ondara2.mdb");
@@ -53,30 +55,43 @@ TEST(ObjectionTo, LetsAFileThatCannotBeWrittenBeRead) {
 
 TEST(ConditionOf, TellsFilesFoldersAndNothing) {
     QTemporaryDir directory;
-    EXPECT_FALSE(conditionOf(directory.filePath(QStringLiteral("none"))).exists);
-    EXPECT_TRUE(conditionOf(directory.path()).isFolder);
+    EXPECT_FALSE(conditionOf(directory.filePath(QStringLiteral("none")), Access::Read).exists);
+    EXPECT_TRUE(conditionOf(directory.path(), Access::Read).isFolder);
 
     QFile file(directory.filePath(QStringLiteral("file")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    EXPECT_TRUE(conditionOf(file.fileName()).isEmpty);
+    EXPECT_TRUE(conditionOf(file.fileName(), Access::Read).isEmpty);
     file.write("x");
     file.close();
-    const FileCondition condition = conditionOf(file.fileName());
+    const FileCondition condition = conditionOf(file.fileName(), Access::ReadWrite);
     EXPECT_TRUE(condition.exists && condition.isWritable && condition.canHaveJournal);
     EXPECT_FALSE(condition.isFolder || condition.isEmpty);
 }
 
-TEST(ConditionOf, TellsFilesAndFoldersThatCannotBeWritten) {
+TEST(ConditionOf, TellsFilesThatCannotBeWritten) {
     QTemporaryDir directory;
     QFile file(directory.filePath(QStringLiteral("file")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.close();
     file.setPermissions(QFile::ReadOwner);
-    QFile::setPermissions(directory.path(), QFile::ReadOwner | QFile::ExeOwner);
-    const FileCondition condition = conditionOf(file.fileName());
-    QFile::setPermissions(directory.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    if (condition.isWritable)
+    if (file.open(QIODevice::WriteOnly))
         GTEST_SKIP() << "This user may write whatever the permissions say";
-    EXPECT_FALSE(condition.isWritable);
-    EXPECT_FALSE(condition.canHaveJournal);
+    EXPECT_FALSE(conditionOf(file.fileName(), Access::ReadWrite).isWritable);
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+}
+
+TEST(ConditionOf, TellsFoldersThatCannotBeWrittenToThoseWhoWrite) {
+    QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("file"));
+    const ReadOnlyFolder folder(directory.path());
+    if (!folder.holdsBack())
+        GTEST_SKIP() << "This user may write whatever the permissions say";
+    EXPECT_FALSE(conditionOf(path, Access::ReadWrite).canHaveJournal);
+    EXPECT_TRUE(conditionOf(path, Access::Read).canHaveJournal);
+}
+
+TEST(ConditionOf, LeavesNothingInTheFolder) {
+    QTemporaryDir directory;
+    conditionOf(directory.filePath(QStringLiteral("file")), Access::ReadWrite);
+    EXPECT_TRUE(QDir(directory.path()).isEmpty());
 }

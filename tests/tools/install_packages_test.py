@@ -48,17 +48,17 @@ class InstallPackages(unittest.TestCase):
         lines = ''.join(f'echo "{package} installed"\n' for package in packages)
         self.stand_in('dpkg-query', f'{lines}echo "x11-utils config-files"\nexit 1\n')
 
-    def run_installer(self):
+    def run_installer(self, *lists):
         return subprocess.run(
-            [self.system / 'tools/install-packages'], capture_output=True, text=True, check=False,
+            [self.system / 'tools/install-packages', *lists], capture_output=True, text=True, check=False,
             env={'PATH': str(self.system / 'bin'), 'SYSTEM': str(self.system)})
 
     def log(self):
         log = self.system / 'log'
         return log.read_text().splitlines() if log.exists() else []
 
-    def expect_installed(self, *steps):
-        self.assertEqual(self.run_installer().returncode, 0)
+    def expect_installed(self, *steps, lists=()):
+        self.assertEqual(self.run_installer(*lists).returncode, 0)
         self.assertEqual([step.replace('-y -qq --no-install-recommends ', '').removesuffix(' -qq')
                           for step in self.log()], list(steps))
 
@@ -71,6 +71,11 @@ class InstallPackages(unittest.TestCase):
     def test_installs_what_is_missing_and_nothing_else(self):
         self.installed('cmake')
         self.expect_installed('apt-get install g++')
+
+    def test_installs_what_is_in_the_lists_that_are_named(self):
+        (self.system / 'tools/more').write_text('wine\n')
+        self.installed('g++')
+        self.expect_installed('apt-get install cmake wine', lists=('debian-packages', 'more'))
 
     def test_takes_a_package_whose_files_are_gone_for_missing(self):
         self.stand_in('dpkg-query', 'echo "cmake config-files"\necho "g++ installed"\n')

@@ -3,7 +3,9 @@
 #include <unistd.h>
 
 #include <QDirIterator>
+#include <QFile>
 
+#include "runtime/folder_access.h"
 #include "runtime/machine_host.h"
 
 namespace {
@@ -32,4 +34,8 @@ bool MachineHost::anotherInstanceRuns() const {
             return true;
     }
     return false;
+}
+
+bool canMakeFilesIn(const QString& folder) {
+    return access(QFile::encodeName(folder).constData(), W_OK | X_OK) == 0;
 }

@@ -1,8 +1,10 @@
 // What the machine's host does in its own way on Windows.
 #include <QString>
+#include <QTemporaryFile>
 #include <array>
 #include <memory>
 
+#include "runtime/folder_access.h"
 #include "runtime/machine_host.h"
 
 // windows.h must come before the header that depends on it.
@@ -46,4 +48,9 @@ bool MachineHost::anotherInstanceRuns() const {
             return true;
     }
     return false;
+}
+
+// Tried and not asked: a folder's read-only attribute says nothing of it.
+bool canMakeFilesIn(const QString& folder) {
+    return QTemporaryFile(folder + QStringLiteral("/XXXXXX")).open();
 }

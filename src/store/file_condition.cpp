@@ -2,19 +2,14 @@
 #include "store/file_condition.h"
 
 #include <QFileInfo>
-#include <QTemporaryFile>
 
+#include "runtime/folder_access.h"
 #include "store/file_error.h"
 
 namespace {
 
-// Tried and not asked: on Windows a folder's read-only attribute says nothing of it.
-bool canMakeFileIn(const QString& folder) {
-    return QTemporaryFile(folder + QStringLiteral("/XXXXXX")).open();
-}
-
 bool canHaveJournal(const QFileInfo& file) {
-    return canMakeFileIn(file.path()) &&
+    return canMakeFilesIn(file.path()) &&
            !QFileInfo(file.filePath() + QStringLiteral("-journal")).isDir();
 }
 

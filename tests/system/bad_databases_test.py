@@ -11,7 +11,7 @@ class RefusalTestCase(SystemTestCase):
         """The run-time's box, then the end with code 1, and not a byte is changed."""
         before = contents(self.program.folder)
         run = start() if start else self.program.start()
-        self.desktop.window(ERROR_BOX)
+        self.desktop.window(ERROR_BOX, run)
         self.assertNotIn(MAIN_WINDOW, self.desktop.titles())
         self.desktop.press('Return')
         self.expect_end(run, 1)
@@ -106,7 +106,7 @@ class FullDisk(SystemTestCase):
             cmp "$FOLDER/Ondara2.mdb" "$HOME/Ondara/Ondara2.mdb"
             [ -z "$(find "$HOME/Ondara" -name '*-journal')" ]
             exit "$status"''')
-        window = self.main_window()
+        window = self.main_window(run)
         self.expect_chart(window)
         self.quit(run, window)
         self.assertEqual(contents(self.program.folder), before)

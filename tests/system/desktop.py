@@ -78,11 +78,15 @@ class Desktop:
         active = self._ask('xprop', '-root', '_NET_ACTIVE_WINDOW').partition('#')[2].strip()
         return active == window
 
-    def window(self, title):
-        """The newest window of this title, once it is there and takes the keys."""
-        found = self.until(
-            lambda: [window for name, window in self.windows() if name == title],
-            f'a window called "{title}"')
+    def window(self, title, owner):
+        """The newest window of this title, once it is there and takes the keys; its owner is the
+        process that is to show it."""
+        def look():
+            if owner.poll() is not None:
+                raise AssertionError(f'The program ended with code {owner.returncode} and did not '
+                                     f'show "{title}"')
+            return [window for name, window in self.windows() if name == title]
+        found = self.until(look, f'a window called "{title}"')
         self.until(lambda: self.has_focus(found[-1]), f'"{title}" to take the keys')
         return found[-1]
 

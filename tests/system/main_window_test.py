@@ -9,7 +9,7 @@ class MainWindow(SystemTestCase):
     def setUp(self):
         super().setUp()
         self.ondara = self.program.start()
-        self.window = self.main_window()
+        self.window = self.main_window(self.ondara)
 
     def expect_change_by(self, key, *parts):
         self.expect_change(self.window, lambda: self.desktop.press(key), *parts)
@@ -55,7 +55,7 @@ class MainWindow(SystemTestCase):
 class WorkingDirectory(SystemTestCase):
     def test_is_not_where_the_databases_are_sought(self):
         ondara = self.program.start(cwd='/')
-        window = self.main_window()
+        window = self.main_window(ondara)
         self.expect_chart(window)
         self.quit(ondara, window)
 
@@ -69,7 +69,7 @@ class ManyPeople(SystemTestCase):
                 SELECT 'A' || (n * 7919 % 100000), 'Person', 10000 + n % 20000, 0, 1
                 FROM Numbers''')
         ondara = self.program.start()
-        window = self.main_window()
+        window = self.main_window(ondara)
         self.expect_chart(window)
         self.quit(ondara, window)
 

@@ -12,10 +12,10 @@ class SecondStart(SystemTestCase):
     def setUp(self):
         super().setUp()
         self.first = self.program.start()
-        self.window = self.main_window()
+        self.window = self.main_window(self.first)
 
     def expect_refusal(self, second):
-        box = self.desktop.window(REFUSAL)
+        box = self.desktop.window(REFUSAL, second)
         self.assertEqual(sorted(self.desktop.titles()), [MAIN_WINDOW, REFUSAL])
         self.assertIsNone(second.poll())
         self.desktop.raise_window(box)
@@ -38,15 +38,13 @@ class SecondStart(SystemTestCase):
 
     def test_is_a_first_one_after_the_end_of_the_first(self):
         self.quit(self.first, self.window)
-        self.program.start()
-        self.main_window()
+        self.main_window(self.program.start())
 
     def test_is_a_first_one_after_the_first_was_killed(self):
         self.first.kill()
         self.first.wait()
         self.desktop.until(lambda: not self.desktop.titles(), 'the window of the killed one to go')
-        self.program.start()
-        self.main_window()
+        self.main_window(self.program.start())
 
     def test_of_a_copy_is_no_second_one(self):
         copy = Program.lay_out(self.program.home / 'copy')

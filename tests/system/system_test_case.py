@@ -26,9 +26,9 @@ class SystemTestCase(unittest.TestCase):
         self.program = Program(self.desktop.name)
         self.addCleanup(self.program.remove)
 
-    def main_window(self):
-        """The newest main window, once it stands there at rest."""
-        window = self.desktop.window(MAIN_WINDOW)
+    def main_window(self, run):
+        """The main window of a program that was started last, once it stands there at rest."""
+        window = self.desktop.window(MAIN_WINDOW, run)
         self.desktop.settled_picture(window, ABOVE_STATUS_BAR)
         return window
 

@@ -16,7 +16,7 @@ class Session(SystemTestCase):
     def session(self):
         """Everything that the main window can do so far, once."""
         run = self.program.start()
-        window = self.main_window()
+        window = self.main_window(run)
         self.expect_chart(window)
         for key in ('ctrl+r', 'ctrl+F1', 'ctrl+F1', 'ctrl+s', 'ctrl+s'):
             self.desktop.press(key)
@@ -35,7 +35,7 @@ class Session(SystemTestCase):
 class Options(SystemTestCase):
     def look(self, *options):
         run = self.program.start(*options)
-        window = self.main_window()
+        window = self.main_window(run)
         self.expect_chart(window)
         look = self.desktop.settled_picture(window, ABOVE_STATUS_BAR)
         self.quit(run, window)

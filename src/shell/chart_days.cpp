@@ -40,6 +40,14 @@ QString blankChartTitle() {
     return chartTitle(QStringLiteral("<unspecified>"));
 }
 
+bool isQuickDateRefused(Date birthdate, Date earliest) {
+    return birthdate < earliest;
+}
+
+QString quickDateRefusal() {
+    return QStringLiteral("Invalid date.");
+}
+
 QString dayPanelText(const ChartDay& day) {
     return host().shortDate(day.date) + QStringLiteral(":   Emotional: ") +
            percentText(day.values.emotional) + QStringLiteral(", Physical: ") +

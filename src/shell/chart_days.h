@@ -27,6 +27,11 @@ QString chartTitle(const QString& fullName);
 QString quickChartTitle();
 QString blankChartTitle();
 
+// Whether a typed birth date is refused: it may not lie before the earliest date that the calendar
+// has at that moment. And what is said then.
+bool isQuickDateRefused(Date birthdate, Date earliest);
+QString quickDateRefusal();
+
 // A day's four values, rounded, for the status bar.
 QString dayPanelText(const ChartDay& day);
 

@@ -100,8 +100,8 @@ void frmMain::lstMain_Click() {
 
 void frmMain::chartQuickBirthdate() {
     const Date birthdate = ui_->dtpQuickBio->Value();
-    if (birthdate < ui_->dtpSelDate->MinDate()) {
-        host().showMessage({.text = QStringLiteral("Invalid date."),
+    if (modCycles::isQuickDateRefused(birthdate, ui_->dtpSelDate->MinDate())) {
+        host().showMessage({.text = modCycles::quickDateRefusal(),
                             .icon = MessageIcon::Exclamation,
                             .owner = this});
         return;
@@ -179,8 +179,7 @@ void frmMain::mnuQuickBio_Click() {
 }
 
 void frmMain::cmdReturn_Click() {
-    QuickMode = !QuickMode;
-    ApplyQuickMode();
+    mnuQuickBio_Click();
 }
 
 void frmMain::ApplyQuickMode() {

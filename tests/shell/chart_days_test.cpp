@@ -62,6 +62,13 @@ TEST(ChartTitle, TellsAQuickChartAndABlankOneFromAPersons) {
     EXPECT_EQ(blankChartTitle(), QStringLiteral("Biorhythm for <unspecified>"));
 }
 
+TEST(QuickDate, IsRefusedOnlyBeforeTheEarliestDateOfTheCalendar) {
+    EXPECT_TRUE(isQuickDateRefused(kBirthdate + -1, kBirthdate));
+    EXPECT_FALSE(isQuickDateRefused(kBirthdate, kBirthdate));
+    EXPECT_FALSE(isQuickDateRefused(kEarliestCalendarDate, kEarliestCalendarDate));
+    EXPECT_EQ(quickDateRefusal(), QStringLiteral("Invalid date."));
+}
+
 class DayTexts : public testing::Test {
   protected:
     RecordingHost host_;

@@ -21,6 +21,7 @@ constexpr NumberedText kTexts[] = {
     {ErrorNumber::FileNotFound, "File not found"},
     {ErrorNumber::DeviceIo, "Device I/O error"},
     {ErrorNumber::DiskFull, "Disk full"},
+    {ErrorNumber::InputPastEnd, "Input past end of file"},
     {ErrorNumber::PermissionDenied, "Permission denied"},
     {ErrorNumber::PathFileAccess, "Path/File access error"},
     {ErrorNumber::InvalidUseOfNull, "Invalid use of Null"},
@@ -43,6 +44,7 @@ constexpr NumberedText kTexts[] = {
     {ErrorNumber::ObjectClosed, "Operation is not allowed when the object is closed."},
     {ErrorNumber::IntegrityViolation,
      "Data value conflicts with the integrity constraints of the field"},
+    {ErrorNumber::IndexOutOfBounds, "Index out of bounds"},
     {ErrorNumber::RowNotLocated,
      "Row cannot be located for updating. Some values may have been changed since it was last "
      "read."},

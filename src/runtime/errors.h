@@ -14,6 +14,7 @@ enum class ErrorNumber : int {
     FileNotFound = 53,
     DeviceIo = 57,
     DiskFull = 61,
+    InputPastEnd = 62,
     PermissionDenied = 70,
     PathFileAccess = 75,
     InvalidUseOfNull = 94,
@@ -28,6 +29,7 @@ enum class ErrorNumber : int {
     ItemNotFound = 3265,
     ObjectClosed = 3704,
     IntegrityViolation = 3719,
+    IndexOutOfBounds = 35600,
     RowNotLocated = -2147217864,
 };
 

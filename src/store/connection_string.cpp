@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "runtime/errors.h"
+#include "store/file_names.h"
 
 namespace {
 
@@ -13,17 +14,6 @@ QDir folderNamed(const QString& name) {
     if (asItStands.exists())
         return asItStands;
     return QDir(QString(name).replace(u'\\', u'/'));
-}
-
-// The name that a file really has in its folder.
-QString nameInFolder(const QDir& folder, const QString& name) {
-    if (folder.exists(name))
-        return name;
-    const QStringList entries = folder.entryList(QDir::Files | QDir::Hidden, QDir::Name);
-    const auto match = std::find_if(entries.begin(), entries.end(), [&name](const QString& entry) {
-        return entry.compare(name, Qt::CaseInsensitive) == 0;
-    });
-    return match == entries.end() ? name : *match;
 }
 
 }  // namespace

@@ -1,0 +1,9 @@
+// File names that match without regard to case.
+#pragma once
+
+#include <QDir>
+#include <QString>
+
+// The name that a file really has in its folder: the name as it stands if there is such a file, or
+// else that of a file which differs from it in case alone. The name itself if there is neither.
+QString nameInFolder(const QDir& folder, const QString& name);

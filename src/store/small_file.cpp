@@ -1,0 +1,108 @@
+// The reading and the writing of small_file.h.
+#include "store/small_file.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <algorithm>
+#include <array>
+
+#include "store/file_error.h"
+#include "store/file_names.h"
+#include "store/small_text.h"
+
+namespace {
+
+constexpr qint64 kLargestFile = 64 * 1024 * 1024;  // bytes; a million records take half of it
+
+bool isInFileName(QChar character) {
+    return character >= u' ' && !QStringLiteral("\\/:*?\"<>|").contains(character);
+}
+
+// Whether Windows takes the name for a device, whatever its extension.
+bool namesDevice(const QString& fileName) {
+    static const std::array kDevices{QStringLiteral("con"), QStringLiteral("prn"),
+                                     QStringLiteral("aux"), QStringLiteral("nul")};
+    static const std::array kNumberedDevices{QStringLiteral("com"), QStringLiteral("lpt")};
+    const QString name = fileName.section(u'.', 0, 0).trimmed().toLower();
+    const auto isNumbered = [&name](const QString& device) {
+        return name.size() == 4 && name.startsWith(device) && name[3] >= u'1' && name[3] <= u'9';
+    };
+    return std::find(kDevices.begin(), kDevices.end(), name) != kDevices.end() ||
+           std::any_of(kNumberedDevices.begin(), kNumberedDevices.end(), isNumbered);
+}
+
+bool isFileName(const QString& name) {
+    return !name.isEmpty() && std::all_of(name.begin(), name.end(), isInFileName) &&
+           !namesDevice(name);
+}
+
+// Raises 52 for a name that no file can have on one of the systems.
+QString pathOf(const QString& folder, const QString& fileName) {
+    if (!isFileName(fileName))
+        throw fileError(ErrorNumber::BadFileName, QStringLiteral("no file can have this name"),
+                        fileName);
+    const QDir directory(folder);
+    return directory.absoluteFilePath(nameInFolder(directory, fileName));
+}
+
+// Raises 53 for a file that is gone, 75 for what is there and is no file.
+QString pathOfExisting(const QString& folder, const QString& fileName) {
+    const QString path = pathOf(folder, fileName);
+    const QFileInfo file(path);
+    if (!file.exists())
+        throw fileError(ErrorNumber::FileNotFound, QStringLiteral("there is no file of this name"),
+                        path);
+    if (!file.isFile())
+        throw fileError(ErrorNumber::PathFileAccess, QStringLiteral("it is no file"), path);
+    return path;
+}
+
+RuntimeError errorOf(const QFileDevice& file, const QString& path) {
+    const ErrorNumber number = file.error() == QFileDevice::ResourceError
+                                   ? ErrorNumber::DiskFull
+                                   : ErrorNumber::PathFileAccess;
+    return fileError(number, file.errorString(), path);
+}
+
+}  // namespace
+
+QString readSmallFile(const QString& folder, const QString& fileName) {
+    const QString path = pathOfExisting(folder, fileName);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw errorOf(file, path);
+    if (file.size() > kLargestFile)
+        throw fileError(ErrorNumber::InvalidFileFormat, QStringLiteral("the file is too large"),
+                        path);
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        throw errorOf(file, path);
+    return decodeSmallText(bytes);
+}
+
+void writeSmallFile(const QString& folder, const QString& fileName, const QString& text) {
+    const QString path = pathOf(folder, fileName);
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        throw errorOf(file, path);
+    file.write(encodeSmallText(text));
+    if (!file.commit())
+        throw errorOf(file, path);
+}
+
+void deleteSmallFile(const QString& folder, const QString& fileName) {
+    const QString path = pathOfExisting(folder, fileName);
+    QFile file(path);
+    if (!file.remove())
+        throw errorOf(file, path);
+}
+
+QStringList smallFiles(const QString& folder, const QString& extension) {
+    QStringList names = QDir(folder).entryList(QDir::Files | QDir::Hidden);
+    names.removeIf([&extension](const QString& name) {
+        return !name.endsWith(extension, Qt::CaseInsensitive);
+    });
+    return names;
+}

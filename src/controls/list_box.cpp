@@ -61,7 +61,7 @@ void ListBox::mouseReleaseEvent(QMouseEvent* event) {
 
 void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
     QListView::mouseDoubleClickEvent(event);
-    if (event->button() == Qt::LeftButton && indexAt(event->pos()).isValid())
+    if (event->button() == Qt::LeftButton)
         Q_EMIT DblClick();
 }
 

@@ -6,10 +6,11 @@
 #include "controls/list_control.h"
 
 // A click on an entry and a key that selects another fire Click once; a click on the selected entry
-// fires it again. The entry of the focus is the selected one, or the first: there is one for screen
+// fires it again. A double click anywhere on the list fires DblClick, whatever is selected, also
+// nothing. The entry of the focus is the selected one, or the first: there is one for screen
 // readers as long as the list has entries, but without a selection it is not shown as selected and
 // the next arrow key selects it.
-class ListBox final : public QListView, public ListControl {
+class ListBox : public QListView, public ListControl {
     Q_OBJECT
 
   public:

@@ -49,8 +49,13 @@ TEST_F(ListBoxTest, FiresNothingForAClickBelowItsEntriesAndKeepsItsSelection) {
     click(*list_.viewport(), placeBelowTheEntries());
     EXPECT_EQ(list_.ListIndex(), 1);
     EXPECT_EQ(clicks_.fired(), 1);
+}
+
+TEST_F(ListBoxTest, FiresDblClickBelowItsEntriesWhetherOneIsSelectedOrNone) {
     doubleClick(*list_.viewport(), placeBelowTheEntries());
-    EXPECT_EQ(doubleClicks_.fired(), 0);
+    EXPECT_EQ(doubleClicks_.fired(), 1);
+    EXPECT_EQ(clicks_.fired(), 0);
+    EXPECT_EQ(list_.ListIndex(), -1);
 }
 
 TEST_F(ListBoxTest, FiresClickOnceForAMouseThatIsDraggedOverSeveralEntries) {

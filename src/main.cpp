@@ -2,9 +2,12 @@
 #include <QApplication>
 #include <QIcon>
 
+#include "commands.h"
 #include "controls/desktop_host.h"
 #include "controls/form.h"
 #include "runtime/event.h"
+#include "shell/default_instance.h"
+#include "shell/frmMain.h"
 #include "shell/start_up.h"
 
 int main(int, char** arguments) {
@@ -14,5 +17,8 @@ int main(int, char** arguments) {
     DesktopHost desktop;
     const HostInForce inForce(desktop);
     runEvent(modCycles::Main);
-    return Form::forms().empty() ? 0 : QApplication::exec();
+    if (Form::forms().empty())
+        return 0;
+    const Commands commands(defaultInstance<frmMain>());
+    return QApplication::exec();
 }

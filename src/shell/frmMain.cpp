@@ -2,7 +2,9 @@
 #include "shell/frmMain.h"
 
 #include <QAction>
+#include <QToolButton>
 
+#include "controls/button_menu.h"
 #include "controls/chart.h"
 #include "controls/twips.h"
 #include "cycles/calendar.h"
@@ -11,6 +13,7 @@
 #include "shell/chart_days.h"
 #include "shell/chart_pointer.h"
 #include "shell/date_scroll.h"
+#include "shell/favourites_menu.h"
 #include "shell/main_chart.h"
 #include "shell/main_lists.h"
 #include "store/databases.h"
@@ -29,8 +32,9 @@ constexpr QSizeF kChartSize(5055, 3615);  // twips
 
 frmMain::frmMain() : ui_(std::make_unique<Ui::frmMain>()) {
     ui_->setupUi(this);
-    controls_ = {ui_->lstMain,  ui_->cbCategory, ui_->listCats, ui_->dtpSelDate,
-                 ui_->lblTitle, ui_->chtMain,    ui_->sbMain};
+    setUpToolbar();
+    controls_ = {ui_->lstMain, ui_->cbCategory, ui_->listCats, ui_->dtpSelDate,  ui_->lblTitle,
+                 ui_->chtMain, ui_->sbMain,     favesMenu_,    ui_->flFavePerson};
     setMainControls(&controls_);
     setUpControls();
     connectEvents();
@@ -55,6 +59,32 @@ void frmMain::setUpControls() {
     showPanel(true);
 }
 
+// A button of the toolbar presses its menu entry. "Faves" has no entry: it opens its own menu.
+void frmMain::setUpToolbar() {
+    const std::initializer_list<std::pair<QAction*, QAction*>> buttons{
+        {ui_->tlbMain_Add, ui_->mnuFileExplore},      {ui_->tlbMain_Hide, ui_->mnuViewHide},
+        {ui_->tlbMain_Compat, ui_->mnuMatchDabatase}, {ui_->tlbMain_Group, ui_->mnuGroup},
+        {ui_->tlbMain_Help, ui_->mnuHelpContents},    {ui_->tlbMain_About, ui_->mnuHelpAbout}};
+    for (const auto& [button, entry] : buttons)
+        connect(button, &QAction::triggered, entry, &QAction::trigger);
+
+    favesMenu_ = new ButtonMenu(this);
+    modCycles::startFavouritesMenu(*favesMenu_);
+    auto& faves = static_cast<QToolButton&>(*ui_->tlbMain->widgetForAction(ui_->tlbMain_Faves));
+    faves.setMenu(favesMenu_);
+    faves.setPopupMode(QToolButton::InstantPopup);
+}
+
+QAction& frmMain::command(const char* name) {
+    auto* entry = findChild<QAction*>(QString::fromLatin1(name));
+    Q_ASSERT(entry);
+    return *entry;
+}
+
+PictureButton& frmMain::cmdDetails() {
+    return *ui_->cmdDetails;
+}
+
 void frmMain::connectEvents() {
     onEvent(ui_->cbCategory, &ComboBox::Click, this, &frmMain::cbCategory_Click);
     onEvent(ui_->chtMain, &Chart::MouseMove, this, &frmMain::chtMain_MouseMove);
@@ -68,7 +98,6 @@ void frmMain::connectEvents() {
     onEvent(ui_->mnuQuickBio, &QAction::triggered, this, &frmMain::mnuQuickBio_Click);
     onEvent(ui_->mnuViewHide, &QAction::triggered, this, &frmMain::mnuViewHide_Click);
     onEvent(ui_->mnuViewRefresh, &QAction::triggered, this, &frmMain::mnuViewRefresh_Click);
-    onEvent(ui_->tlbMain_Hide, &QAction::triggered, this, &frmMain::mnuViewHide_Click);
 }
 
 // The list of categories selects everybody, which lists the people and draws the blank chart.
@@ -77,6 +106,7 @@ void frmMain::Form_Load() {
     modCycles::askForPerson();
     modCycles::FillCategoryList();
     ui_->cmbScroll->setListIndex(0);
+    modCycles::FillFavouritesMenu();
     ui_->dtpSelDate->setValue(host().today());
     ui_->dtpQuickBio->setValue(host().today());
 }

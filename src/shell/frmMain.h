@@ -9,6 +9,9 @@
 #include "shell/date_scroll.h"
 #include "shell/main_controls.h"
 
+class PictureButton;
+class QAction;
+
 namespace Ui {
 class frmMain;
 }
@@ -23,6 +26,11 @@ class frmMain final : public Form {
     frmMain();
     ~frmMain() override;
 
+    // A command's menu entry, by its name. There must be one.
+    QAction& command(const char* name);
+
+    PictureButton& cmdDetails();
+
     // Whether the chart follows the quick birth date instead of the list.
     bool QuickMode = false;
 
@@ -32,6 +40,7 @@ class frmMain final : public Form {
 
   private:
     void setUpControls();
+    void setUpToolbar();
     void connectEvents();
 
     void cbCategory_Click();
@@ -55,5 +64,6 @@ class frmMain final : public Form {
     void showPanel(bool visible);
 
     std::unique_ptr<Ui::frmMain> ui_;
+    ButtonMenu* favesMenu_ = nullptr;
     MainControls controls_{};
 };

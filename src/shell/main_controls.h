@@ -1,8 +1,10 @@
 // The main window's controls that are the application's shared state.
 #pragma once
 
+class ButtonMenu;
 class Chart;
 class ComboBox;
+class FileListBox;
 class ListBox;
 class MonthView;
 class QLabel;
@@ -18,6 +20,8 @@ struct MainControls {
     QLabel* lblTitle;
     Chart* chtMain;
     StatusBar* sbMain;
+    ButtonMenu* mnuFaves;  // the drop-down menu of the button "Faves"
+    FileListBox* flFavePerson;
 };
 
 // The controls of the main window there is. There must be one.

@@ -1,0 +1,79 @@
+// The event routines of the commands.
+#include "commands.h"
+
+#include <QAction>
+
+#include "controls/button_menu.h"
+#include "controls/combo_box.h"
+#include "controls/list_box.h"
+#include "controls/picture_button.h"
+#include "runtime/event.h"
+#include "runtime/host.h"
+#include "shell/favourites_menu.h"
+#include "shell/frmMain.h"
+#include "shell/frmManageFaves.h"
+
+Commands::Commands(frmMain& window) : window_(window) {
+    const auto onCommand = [&](const char* entry, auto routine) {
+        onEvent(&window.command(entry), &QAction::triggered, this, routine);
+    };
+    onCommand("mnuFind", &Commands::mnuFind_Click);
+    onCommand("mnuMatchDabatase", &Commands::mnuMatchDabatase_Click);
+    onCommand("mnuQuickMatch", &Commands::mnuQuickMatch_Click);
+    onCommand("mnuReport", &Commands::mnuReport_Click);
+    onCommand("mnuViewDetails", &Commands::cmdDetails_Click);
+    onEvent(&window.cmdDetails(), &PictureButton::Click, this, &Commands::cmdDetails_Click);
+    onEvent(mainControls().mnuFaves, &ButtonMenu::ButtonMenuClick, this,
+            &Commands::tlbMain_ButtonMenuClick);
+}
+
+bool Commands::isPersonChosen(const QString& request) {
+    if (mainControls().lstMain->ListIndex() != -1)
+        return true;
+    host().showMessage({.text = request, .owner = &window_});
+    return false;
+}
+
+bool Commands::personIsNeeded() {
+    return isPersonChosen(QStringLiteral("Please select a person from the list."));
+}
+
+void Commands::cmdDetails_Click() {
+    isPersonChosen(QStringLiteral("Select a person from the list first."));
+}
+
+void Commands::mnuMatchDabatase_Click() {
+    personIsNeeded();
+}
+
+void Commands::mnuQuickMatch_Click() {
+    personIsNeeded();
+}
+
+void Commands::mnuFind_Click() {
+    personIsNeeded();
+}
+
+void Commands::mnuReport_Click() {
+    personIsNeeded();
+}
+
+void Commands::tlbMain_ButtonMenuClick(int index) {
+    trapped(&window_, [&] {
+        const QString key = mainControls().mnuFaves->Key(index);
+        if (key == QStringLiteral("AddFaves"))
+            modCycles::addFavourite();
+        else if (key == QStringLiteral("ManageFaves"))
+            frmManageFaves(&window_).ShowModal();
+        else if (key.isEmpty())
+            chooseFavourite(mainControls().mnuFaves->Text(index));
+    });
+}
+
+void Commands::chooseFavourite(const QString& name) {
+    if (!modCycles::selectFavourite(name, *mainControls().cbCategory, *mainControls().lstMain))
+        host().showMessage(
+            {.text = QStringLiteral("This person appears to have been removed from the database. "
+                                    "Please update your favourites."),
+             .owner = &window_});
+}

@@ -1,0 +1,31 @@
+// The commands of the main window that open a form or ask for help.
+#pragma once
+
+#include <QObject>
+
+class frmMain;
+
+// Each command is an event routine of its menu entry; the toolbar's buttons press those entries. A
+// command tests that a person is chosen where it needs one, opens its form over the main window,
+// and owns it until it closes.
+class Commands final : public QObject {
+    Q_OBJECT
+
+  public:
+    // The window must be there whenever a command is given.
+    explicit Commands(frmMain& window);
+
+  private:
+    void cmdDetails_Click();
+    void mnuFind_Click();
+    void mnuMatchDabatase_Click();
+    void mnuQuickMatch_Click();
+    void mnuReport_Click();
+    void tlbMain_ButtonMenuClick(int index);
+
+    bool isPersonChosen(const QString& request);
+    bool personIsNeeded();
+    void chooseFavourite(const QString& name);
+
+    frmMain& window_;
+};

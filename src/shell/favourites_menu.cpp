@@ -1,0 +1,58 @@
+// The filling of the menus, and the two ways between a list of people and the favourites.
+#include "shell/favourites_menu.h"
+
+#include "controls/button_menu.h"
+#include "controls/combo_box.h"
+#include "controls/file_list_box.h"
+#include "controls/list_box.h"
+#include "runtime/app.h"
+#include "shell/main_controls.h"
+#include "store/favourites.h"
+
+namespace modCycles {
+
+namespace {
+
+constexpr int kFixedEntries = 3;
+constexpr int kEverybody = 0;  // the filter's first entry
+
+}  // namespace
+
+void fillFavourites(ButtonMenu& menu, int fixedEntries, FileListBox& files) {
+    files.setPath(App::Path());
+    files.setPattern(favouritePattern());
+    files.Refresh();
+    if (files.ListCount() == 0)
+        return;
+    while (menu.Count() > fixedEntries)
+        menu.Remove(menu.Count());
+    for (int i = 0; i < files.ListCount(); ++i)
+        menu.Add({}, favouriteIn(files.List(i)));
+}
+
+void startFavouritesMenu(ButtonMenu& menu) {
+    menu.Add(QStringLiteral("AddFaves"), QStringLiteral("Add to Favourites"));
+    menu.Add(QStringLiteral("ManageFaves"), QStringLiteral("Manage Favourites"));
+    menu.Add(QStringLiteral("sep"), QStringLiteral("-"));
+}
+
+void FillFavouritesMenu() {
+    fillFavourites(*mainControls().mnuFaves, kFixedEntries, *mainControls().flFavePerson);
+}
+
+void addFavourite() {
+    const ListBox& people = *mainControls().lstMain;
+    if (people.ListIndex() == -1)
+        return;
+    writeFavourite({people.ItemData(people.ListIndex()), people.Text()});
+    FillFavouritesMenu();
+}
+
+bool selectFavourite(const QString& name, ComboBox& filter, ListBox& people) {
+    const PersonRecord favourite = readFavourite(name);
+    filter.setListIndex(kEverybody);
+    people.setText(favourite.displayText);
+    return people.ListIndex() != -1;
+}
+
+}  // namespace modCycles

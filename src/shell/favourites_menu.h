@@ -1,0 +1,33 @@
+// The menus of favourites, rebuilt from the files in the program's directory, and what a click on
+// their entries does.
+#pragma once
+
+#include <QString>
+
+class ButtonMenu;
+class ComboBox;
+class FileListBox;
+class ListBox;
+
+namespace modCycles {
+
+// Shows every favourite behind the first `fixedEntries` entries of a menu. Without any favourite
+// the menu stays as it is, the last one that was deleted in it.
+void fillFavourites(ButtonMenu& menu, int fixedEntries, FileListBox& files);
+
+// Gives the main window's menu the entries that stay: add, manage, and the separator behind them.
+void startFavouritesMenu(ButtonMenu& menu);
+
+// Rebuilds the main window's menu of favourites.
+void FillFavouritesMenu();
+
+// Makes the person who is chosen in the main window a favourite; nobody is chosen: nothing happens.
+// Raises what writeFavourite raises.
+void addFavourite();
+
+// Selects a favourite in a list of people, which shows everybody for it: the text in the file
+// decides, the number does not. Whoever is not in the list leaves it without a selection, and false
+// is returned. Raises what readFavourite raises, before anything changes.
+bool selectFavourite(const QString& name, ComboBox& filter, ListBox& people);
+
+}  // namespace modCycles

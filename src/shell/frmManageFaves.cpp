@@ -1,0 +1,53 @@
+// The event routines of the form that deletes favourites.
+#include "shell/frmManageFaves.h"
+
+#include <QKeyEvent>
+
+#include "runtime/app.h"
+#include "runtime/event.h"
+#include "shell/favourites_menu.h"
+#include "store/favourites.h"
+#include "ui_frmManageFaves.h"
+
+frmManageFaves::frmManageFaves(QWidget* owner)
+    : Form(owner), ui_(std::make_unique<Ui::frmManageFaves>()) {
+    ui_->setupUi(this);
+    onEvent(ui_->cmdClose, &QPushButton::clicked, this, &frmManageFaves::cmdClose_Click);
+    onEvent(ui_->cmdDelete, &QPushButton::clicked, this, &frmManageFaves::cmdDelete_Click);
+}
+
+frmManageFaves::~frmManageFaves() = default;
+
+void frmManageFaves::Form_Load() {
+    ui_->flManageFaves->setPath(App::Path());
+    ui_->flManageFaves->setPattern(favouritePattern());
+    ui_->flManageFaves->Refresh();
+}
+
+void frmManageFaves::Form_KeyDown(QKeyEvent& key) {
+    if (key.key() != Qt::Key_Escape)
+        return;
+    key.accept();
+    cmdClose_Click();
+}
+
+void frmManageFaves::cmdDelete_Click() {
+    if (ui_->flManageFaves->ListIndex() == -1)
+        return;
+    LockFaves(true);
+    deleteFavourite(ui_->flManageFaves->FileName());
+    ui_->flManageFaves->Refresh();
+    LockFaves(false);
+    ui_->flManageFaves->setFocus();
+}
+
+void frmManageFaves::LockFaves(bool sett) {
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{ui_->flManageFaves, ui_->cmdDelete, ui_->cmdClose})
+        control->setEnabled(!sett);
+}
+
+void frmManageFaves::cmdClose_Click() {
+    modCycles::FillFavouritesMenu();
+    Unload();
+}

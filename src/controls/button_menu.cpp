@@ -1,9 +1,29 @@
 // The entries of the drop-down menu.
 #include "controls/button_menu.h"
 
+#include <QProxyStyle>
+
 #include "runtime/errors.h"
 
+namespace {
+
+// A menu that is longer than the screen is scrolled, and is not broken into columns beyond it.
+class ScrollingMenus final : public QProxyStyle {
+  public:
+    explicit ScrollingMenus(QObject* owner) { setParent(owner); }
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* answer) const override {
+        if (hint == SH_Menu_Scrollable)
+            return true;
+        return QProxyStyle::styleHint(hint, option, widget, answer);
+    }
+};
+
+}  // namespace
+
 ButtonMenu::ButtonMenu(QWidget* parent) : QMenu(parent) {
+    setStyle(new ScrollingMenus(this));
     connect(this, &QMenu::aboutToShow, this, &ButtonMenu::showEntries);
 }
 

@@ -66,6 +66,16 @@ TEST_F(ButtonMenuTest, ShowsWhatIsAddedAndRemovedWhenItOpensNext) {
     EXPECT_EQ(clicked_, std::vector<int>{3});
 }
 
+TEST_F(ButtonMenuTest, StaysInOneColumnHoweverLong) {
+    for (int entry = 0; entry < 500; ++entry)
+        menu_.Add({}, QStringLiteral("Zed"));
+    const QList<QAction*> entries = shown();
+    menu_.popup({0, 0});
+    EXPECT_EQ(menu_.actionGeometry(entries.front()).left(),
+              menu_.actionGeometry(entries.back()).left());
+    menu_.close();
+}
+
 TEST_F(ButtonMenuTest, IsEmptyWhenItHasBeenCleared) {
     menu_.Clear();
     EXPECT_EQ(menu_.Count(), 0);

@@ -88,7 +88,8 @@ void writeSmallFile(const QString& folder, const QString& fileName, const QStrin
     if (!file.open(QIODevice::WriteOnly))
         throw errorOf(file, path);
     file.write(encodeSmallText(text));
-    if (!file.commit())
+    // To commit alone would be to rename a file that a full disk has cut short.
+    if (!file.flush() || !file.commit())
         throw errorOf(file, path);
 }
 

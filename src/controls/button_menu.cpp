@@ -2,6 +2,7 @@
 #include "controls/button_menu.h"
 
 #include <QProxyStyle>
+#include <utility>
 
 #include "runtime/errors.h"
 
@@ -36,14 +37,23 @@ const ButtonMenu::Entry& ButtonMenu::entry(int index) const {
 void ButtonMenu::Remove(int index) {
     entry(index);
     entries_.erase(entries_.begin() + index - 1);
+    changed_ = true;
 }
 
 void ButtonMenu::Add(const QString& key, const QString& text) {
     entries_.push_back({key, text});
+    changed_ = true;
+}
+
+void ButtonMenu::Clear() {
+    entries_.clear();
+    changed_ = true;
 }
 
 // An ampersand in a text is no mnemonic.
 void ButtonMenu::showEntries() {
+    if (!std::exchange(changed_, false))
+        return;
     clear();
     for (int index = 1; index <= Count(); ++index) {
         QString text = Text(index);

@@ -22,7 +22,7 @@ class ButtonMenu final : public QMenu {
     void Remove(int index);
 
     void Add(const QString& key, const QString& text);
-    void Clear() { entries_.clear(); }
+    void Clear();
 
   Q_SIGNALS:
     void ButtonMenuClick(int index);
@@ -37,4 +37,5 @@ class ButtonMenu final : public QMenu {
     void showEntries();
 
     std::vector<Entry> entries_;
+    bool changed_ = false;  // since they were shown
 };

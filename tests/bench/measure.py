@@ -45,6 +45,11 @@ ROUTINES = [
     ('category picked', 'pickCategory', {}),
     ('name clicked to chart painted', 'clickName', CLICKED_AIM),
 ]
+FAVOURITES = [
+    ('favourites listed', 'fillFavouritesMenu'),
+    ('favourites dropped down', 'dropFavouritesDown'),
+]
+FAVOURITES_FLOOR = 'floorOfFavourites'
 
 
 class Start:
@@ -100,10 +105,11 @@ def measure_starts(programs, folders):
     return empty, ondara
 
 
-def measure_routines(folder):
-    """The time of each routine and each floor, in milliseconds."""
+def measure_routines(folder, chosen):
+    """The time of each routine and floor that the filter chooses, in milliseconds."""
     report = subprocess.run(
-        [folder / 'bench_routines', f'--benchmark_repetitions={REPETITIONS}',
+        [folder / 'bench_routines', f'--benchmark_filter={chosen}',
+         f'--benchmark_repetitions={REPETITIONS}',
          '--benchmark_min_time=0.05', '--benchmark_enable_random_interleaving=true',
          '--benchmark_report_aggregates_only=true', '--benchmark_format=json'],
         check=True, stdout=subprocess.PIPE, text=True).stdout
@@ -143,6 +149,14 @@ def print_routines(routines):
                       f'{value / floor:.2f}', verdict(value, aims.get(people), 'ms'))
 
 
+def print_favourites(times):
+    print_row('10,000 favourites', '', 'Ondara', 'floor', 'ratio', '')
+    floor = times[FAVOURITES_FLOOR]
+    for what, routine in FAVOURITES:
+        value = times[routine]
+        print_row(what, '', f'{value:.3f} ms', f'{floor:.3f} ms', f'{value / floor:.2f}', '')
+
+
 def print_growth(routines):
     print_row('growth, per n log n', 'people', 'Ondara', 'floor', '', 'aim')
     few, many = 1_000, 100_000
@@ -162,12 +176,15 @@ def main():
         for people, folder in folders.items():
             lay_out(programs, schema, folder, people)
         starts = measure_starts(programs, folders)
-        routines = {people: measure_routines(folder) for people, folder in folders.items()}
+        routines = {people: measure_routines(folder, '-Favourites') for people, folder in folders.items()}
+        favourites = measure_routines(folders[PEOPLE[0]], 'Favourites')
     print_starts(*starts)
     print()
     print_routines(routines)
     print()
     print_growth(routines)
+    print()
+    print_favourites(favourites)
 
 
 if __name__ == '__main__':

@@ -15,10 +15,15 @@ namespace {
 
 std::vector<Form*> loadedForms;
 
-// A button that has the focus is pressed by Enter, as by the space bar.
-void letEnterPressFocusedButtons(const QWidget& form) {
-    for (QPushButton* button : form.findChildren<QPushButton*>())
+// A button that has the focus is pressed by Enter, as by the space bar. One that is pressed, also
+// by its letter, takes the focus before Click.
+void setUpButtons(const QWidget& form) {
+    for (QPushButton* button : form.findChildren<QPushButton*>()) {
         button->setAutoDefault(true);
+        if (button->focusPolicy() != Qt::NoFocus)
+            QObject::connect(button, &QPushButton::pressed, button,
+                             qOverload<>(&QWidget::setFocus));
+    }
 }
 
 }  // namespace
@@ -34,7 +39,7 @@ void Form::Load() {
         return;
     loaded_ = true;
     loadedForms.push_back(this);
-    letEnterPressFocusedButtons(*this);
+    setUpButtons(*this);
     qApp->installEventFilter(this);
     Form_Load();
 }

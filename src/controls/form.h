@@ -8,7 +8,8 @@ class QKeyEvent;
 
 // A form is loaded before it is shown and unloaded when it closes, however it closes. Keys reach
 // Form_KeyDown before the control that has the focus. Esc closes nothing by itself, and Enter
-// presses nothing but a button that has the focus.
+// presses nothing but a button that has the focus. A button that is pressed takes the focus first,
+// so that whichever control had it has heard that it lost it.
 //
 // Whoever makes a form owns it: a command makes one on the stack, shows it modally, and it is freed
 // on return. A run-time error in Form_Load or Form_Unload goes to whoever loads or unloads.

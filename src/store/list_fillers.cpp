@@ -32,12 +32,18 @@ void fillPeopleOfCategory(ItemList& list, Long catId) {
     fillFrom(people, list);
 }
 
-std::vector<ListEntry> readCategoryEntries() {
+std::vector<ListEntry> readCategories() {
     Connection connection = openPersonDatabase();
     Recordset categories(connection, statements::categories());
-    std::vector<ListEntry> entries{{.text = QStringLiteral("*"), .itemData = 0, .leads = true}};
+    std::vector<ListEntry> entries;
     for (categories.MoveFirst(); !categories.EndOfFile(); categories.MoveNext())
         entries.push_back(
             {categories.Fields(u"Category").toText(), categories.Fields(u"CatID").toLong()});
+    return entries;
+}
+
+std::vector<ListEntry> readCategoryEntries() {
+    std::vector<ListEntry> entries = readCategories();
+    entries.insert(entries.begin(), {.text = QStringLiteral("*"), .itemData = 0, .leads = true});
     return entries;
 }

@@ -11,6 +11,9 @@ void fillPeople(ItemList& list);
 // The same with the people of one category, who may be nobody.
 void fillPeopleOfCategory(ItemList& list, Long catId);
 
-// All categories in the order of the store, behind the pseudo-entry "*" with item data 0, which
-// stands for everybody. Raises 3021 if there is none.
+// All categories in the order of the store, with the CatID as item data. Raises 3021 if there is
+// none.
+std::vector<ListEntry> readCategories();
+
+// The same behind the pseudo-entry "*" with item data 0, which stands for everybody.
 std::vector<ListEntry> readCategoryEntries();

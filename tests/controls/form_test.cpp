@@ -146,6 +146,20 @@ TEST_F(FormLife, IsClosedNeitherByEscNorByEnter) {
     EXPECT_EQ(presses, 0);
 }
 
+TEST_F(FormLife, LeavesTheFocusToAButtonBeforeItsClick) {
+    Probe form;
+    form.Show();
+    const QWidget* atClick = nullptr;
+    QObject::connect(&form.button, &QPushButton::clicked, &form,
+                     [&] { atClick = form.focusWidget(); });
+    form.box.setFocus();
+    form.button.animateClick();
+    EXPECT_EQ(form.focusWidget(), &form.button);
+    form.box.setFocus();
+    form.button.click();
+    EXPECT_EQ(atClick, &form.button);
+}
+
 TEST_F(FormLife, PressesTheButtonThatHasTheFocusByEnter) {
     Probe form;
     form.Show();

@@ -121,6 +121,14 @@ TEST_F(ListFillersTest, PutThePseudoEntryBeforeTheCategoriesInTheOrderOfTheStore
     EXPECT_FALSE(categories.entries()[1].leads);
 }
 
+TEST_F(ListFillersTest, ReadTheCategoriesAloneInTheOrderOfTheStore) {
+    for (const char16_t* name : {u"Work", u"Family"})
+        addCategory(directory_.people(), QString::fromUtf16(name));
+    list_.fill(readCategories());
+    EXPECT_EQ(list_.lines(), (QStringList{QStringLiteral("Work=1"), QStringLiteral("Family=2")}));
+}
+
 TEST_F(ListFillersTest, RaiseNoCurrentRecordWithoutCategories) {
     EXPECT_EQ(errorOf([] { readCategoryEntries(); }), 3021);
+    EXPECT_EQ(errorOf([] { readCategories(); }), 3021);
 }

@@ -1,0 +1,15 @@
+// A box with a text of several lines.
+#pragma once
+
+#include <QPlainTextEdit>
+
+// The lines of its text end in CR LF, but for the last, whatever the system. Tab leaves the box.
+class MultiLineTextBox final : public QPlainTextEdit {
+    Q_OBJECT
+
+  public:
+    explicit MultiLineTextBox(QWidget* parent = nullptr);
+
+    QString Text() const;
+    void setText(const QString& text) { setPlainText(text); }
+};

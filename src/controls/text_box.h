@@ -1,0 +1,23 @@
+// A box with one line of text.
+#pragma once
+
+#include <QLineEdit>
+
+// Its background is painted in its background role, in the colours of the palette there is at that
+// moment: as an input at first, and in the colour of buttons where setBackgroundRole says so.
+//
+// LostFocus is fired whenever the user goes on to another control, whether or not the text has
+// changed; not while another window or a menu has the keyboard for a while.
+class TextBox final : public QLineEdit {
+    Q_OBJECT
+
+  public:
+    explicit TextBox(QWidget* parent = nullptr);
+
+  Q_SIGNALS:
+    void LostFocus();
+
+  protected:
+    void focusOutEvent(QFocusEvent* event) override;
+    void initStyleOption(QStyleOptionFrame* option) const override;
+};

@@ -32,12 +32,19 @@ void fillPeopleOfCategory(ItemList& list, Long catId) {
     fillFrom(people, list);
 }
 
+std::vector<ListEntry> categoryEntries(Recordset& categories) {
+    std::vector<ListEntry> entries;
+    for (; !categories.EndOfFile(); categories.MoveNext())
+        entries.push_back(
+            {categories.Fields(u"Category").toText(), categories.Fields(u"CatID").toLong()});
+    return entries;
+}
+
 std::vector<ListEntry> readCategoryEntries() {
     Connection connection = openPersonDatabase();
     Recordset categories(connection, statements::categories());
-    std::vector<ListEntry> entries{{.text = QStringLiteral("*"), .itemData = 0, .leads = true}};
-    for (categories.MoveFirst(); !categories.EndOfFile(); categories.MoveNext())
-        entries.push_back(
-            {categories.Fields(u"Category").toText(), categories.Fields(u"CatID").toLong()});
+    categories.MoveFirst();
+    std::vector<ListEntry> entries = categoryEntries(categories);
+    entries.insert(entries.begin(), {.text = QStringLiteral("*"), .itemData = 0, .leads = true});
     return entries;
 }

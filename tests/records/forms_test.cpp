@@ -1,0 +1,11 @@
+// What holds for every form, for those of the records.
+#include "records/dlgBZoom.h"
+#include "records/frmZoom.h"
+#include "support/every_form.h"
+
+namespace {
+
+using Forms = testing::Types<Drawn<dlgBZoom, OnEscape::Stays>, Drawn<frmZoom, OnEscape::Closes>>;
+INSTANTIATE_TYPED_TEST_SUITE_P(Records, EveryForm, Forms);
+
+}  // namespace

@@ -2,19 +2,18 @@
 // name until the chart is painted. Behind each comes its floor.
 #include <benchmark/benchmark.h>
 
-#include <QEvent>
 #include <QImage>
 #include <QPainter>
 #include <QTest>
 
 #include "bench/floors.h"
+#include "bench/paint_watch.h"
 #include "controls/chart.h"
 #include "controls/chart_painter.h"
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
 #include "controls/twips.h"
 #include "runtime/app.h"
-#include "runtime/host.h"
 #include "shell/main_chart.h"
 #include "shell/main_controls.h"
 #include "shell/main_lists.h"
@@ -59,27 +58,6 @@ void pickCategoryFloor(benchmark::State& state) {
     for (auto _ : state)
         benchmark::DoNotOptimize(plainPeopleOfCategory(database(), catId));
 }
-
-// Waits for the paint events of one widget.
-class PaintWatch final : public QObject {
-  public:
-    explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
-
-    void waitForPaint() {
-        painted_ = false;
-        while (!painted_)
-            host().yield();
-    }
-
-  protected:
-    bool eventFilter(QObject*, QEvent* event) override {
-        painted_ = painted_ || event->type() == QEvent::Paint;
-        return false;
-    }
-
-  private:
-    bool painted_ = false;
-};
 
 // Another of the first names at every click.
 void clickName(benchmark::State& state) {

@@ -4,7 +4,7 @@
 namespace {
 
 QPixmap pictureNamed(const QString& name) {
-    const QPixmap picture(QStringLiteral(":/art/%1.png").arg(name));
+    QPixmap picture(QStringLiteral(":/art/%1.png").arg(name));
     Q_ASSERT(!picture.isNull());
     return picture;
 }

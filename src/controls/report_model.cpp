@@ -50,11 +50,11 @@ void ReportModel::setSorting(const ListSorting& sorting) {
         return;
     sorting_ = sorting;
     if (sorting_.isOn)
-        sort();
+        sortRows();
 }
 
 // What a view remembers of a row, its selection among it, stays with the row.
-void ReportModel::sort() {
+void ReportModel::sortRows() {
     Q_EMIT layoutAboutToBeChanged();
     std::vector<ListRow> rows;
     rows.reserve(rows_.size());

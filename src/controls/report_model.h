@@ -54,7 +54,7 @@ class ReportModel final : public QAbstractTableModel {
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   private:
-    void sort();
+    void sortRows();
 
     std::vector<ListColumn> columns_;
     std::vector<ListRow> rows_;

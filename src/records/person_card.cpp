@@ -30,7 +30,7 @@ Long ageOn(Date today, Date birthdate) {
     using namespace modCycles;
     const Date birthday = DateSerial(Year(today), Month(birthdate), Day(birthdate));
     const Long years = Year(today) - Year(birthdate);
-    return DateDiff(birthday, today) < 0 ? years - 1 : years;
+    return today < birthday ? years - 1 : years;
 }
 
 QString cardName(const Value& firstName, const Value& name, Long age) {

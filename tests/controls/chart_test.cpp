@@ -125,6 +125,16 @@ TEST_F(ChartTest, IsPicturedInAnySize) {
     EXPECT_EQ(chart_.picture(0.5).deviceIndependentSize(), QSizeF(169, 121));
 }
 
+TEST_F(ChartTest, FillsItsPictureToTheLowerRightEnd) {
+    chart_.setChartData(smallTable());
+    chart_.setShowLegend(true);
+    const QImage picture = chart_.picture(2).toImage();
+    const QImage end = picture.copy(picture.width() / 2, picture.height() / 2, 300, 200);
+    QImage nothing = end;
+    nothing.fill(chart_.palette().color(QPalette::Base));
+    EXPECT_NE(end, nothing);
+}
+
 TEST_F(ChartTest, LeavesAPictureAsItIsWhenItChanges) {
     chart_.setChartData(smallTable());
     const QPixmap before = chart_.picture(2);

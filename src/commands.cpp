@@ -3,26 +3,33 @@
 
 #include <QAction>
 
+#include "analyses/frmBirthdayToday.h"
 #include "controls/button_menu.h"
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
 #include "controls/picture_button.h"
+#include "records/frmAddNew.h"
+#include "records/frmZoom.h"
 #include "runtime/event.h"
 #include "runtime/host.h"
 #include "shell/favourites_menu.h"
 #include "shell/frmMain.h"
 #include "shell/frmManageFaves.h"
+#include "shell/handover.h"
 
 Commands::Commands(frmMain& window) : window_(window) {
     const auto onCommand = [&](const char* entry, auto routine) {
         onEvent(&window.command(entry), &QAction::triggered, this, routine);
     };
+    onCommand("mnuAddNew", &Commands::mnuAddNew_Click);
+    onCommand("mnuBToday", &Commands::mnuBToday_Click);
     onCommand("mnuFind", &Commands::mnuFind_Click);
     onCommand("mnuMatchDabatase", &Commands::mnuMatchDabatase_Click);
     onCommand("mnuQuickMatch", &Commands::mnuQuickMatch_Click);
     onCommand("mnuReport", &Commands::mnuReport_Click);
     onCommand("mnuViewDetails", &Commands::cmdDetails_Click);
     onEvent(&window.cmdDetails(), &PictureButton::Click, this, &Commands::cmdDetails_Click);
+    onEvent(mainControls().lstMain, &ListBox::DblClick, this, &Commands::lstMain_DblClick);
     onEvent(mainControls().mnuFaves, &ButtonMenu::ButtonMenuClick, this,
             &Commands::tlbMain_ButtonMenuClick);
 }
@@ -56,6 +63,22 @@ void Commands::mnuFind_Click() {
 
 void Commands::mnuReport_Click() {
     personIsNeeded();
+}
+
+// The card opens for whoever is selected; with nobody selected, reading the number fails.
+void Commands::lstMain_DblClick() {
+    const ListBox& people = *mainControls().lstMain;
+    modCycles::SelectedNameID = people.ItemData(people.ListIndex());
+    frmZoom(&window_).ShowModal();
+    modCycles::SelectedNameID = 0;
+}
+
+void Commands::mnuAddNew_Click() {
+    frmAddNew(&window_).ShowModal();
+}
+
+void Commands::mnuBToday_Click() {
+    frmBirthdayToday(&window_).ShowModal();
 }
 
 void Commands::tlbMain_ButtonMenuClick(int index) {

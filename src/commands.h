@@ -17,6 +17,9 @@ class Commands final : public QObject {
 
   private:
     void cmdDetails_Click();
+    void lstMain_DblClick();
+    void mnuAddNew_Click();
+    void mnuBToday_Click();
     void mnuFind_Click();
     void mnuMatchDabatase_Click();
     void mnuQuickMatch_Click();

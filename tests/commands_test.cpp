@@ -10,12 +10,16 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include "analyses/frmBirthdayToday.h"
 #include "controls/button_menu.h"
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
 #include "controls/picture_button.h"
+#include "records/frmAddNew.h"
+#include "records/frmZoom.h"
 #include "shell/frmMain.h"
 #include "shell/frmManageFaves.h"
+#include "shell/handover.h"
 #include "shell/main_controls.h"
 #include "store/favourites.h"
 #include "support/main_window.h"
@@ -32,6 +36,16 @@ class CommandsTest : public MainWindowTest {
     void startWith(const QString& displayText) {
         start();
         control<ListBox>("lstMain").setText(displayText);
+    }
+
+    // The command shows a form of this kind modally over the main window.
+    template <class F>
+    void expectForm(const char* command) {
+        bool isShown = false;
+        onNextForm<F>(
+            [&](F& form) { isShown = form.isModal() && form.parentWidget() == &window(); });
+        trigger(command);
+        EXPECT_TRUE(isShown) << command;
     }
 
     ButtonMenu& favesMenu() { return *mainControls().mnuFaves; }
@@ -94,6 +108,35 @@ TEST_F(CommandsTest, HaveThePersonOfTheHiddenListOnceAQuickDateIsCharted) {
     control<QPushButton>("cmdQuickGo").click();
     trigger("mnuFind");
     EXPECT_TRUE(host_.messages().empty());
+}
+
+TEST_F(CommandsTest, OpenTheFormsThatNeedNobodyWithoutAPerson) {
+    start();
+    expectForm<frmAddNew>("mnuAddNew");
+    expectForm<frmBirthdayToday>("mnuBToday");
+}
+
+TEST_F(CommandsTest, HandTheCardThePersonWhoIsDoubleClicked) {
+    startWith(kAnna);
+    const ListBox& people = control<ListBox>("lstMain");
+    Long handedOver = 0;
+    onNextForm<frmZoom>([&](frmZoom& card) {
+        handedOver = modCycles::SelectedNameID;
+        EXPECT_TRUE(card.isModal());
+        EXPECT_EQ(card.parentWidget(), &window());
+    });
+    Q_EMIT control<ListBox>("lstMain").DblClick();
+    EXPECT_EQ(handedOver, people.ItemData(people.ListIndex()));
+    EXPECT_EQ(modCycles::SelectedNameID, 0);
+}
+
+TEST_F(CommandsTest, EndTheProgramForADoubleClickThatFindsNobodySelected) {
+    start();
+    window().Show();
+    host_.expectMessage(QStringLiteral("Run-time error '381':\n\nInvalid property array index"));
+    QWidget& list = *control<ListBox>("lstMain").viewport();
+    doubleClick(list, list.rect().bottomLeft() + QPoint(8, -8));
+    EXPECT_EQ(host_.exitCode(), 1);
 }
 
 TEST_F(CommandsTest, AddWhoIsChosenToTheFavourites) {

@@ -87,6 +87,16 @@ void Chart::setMarkedRow(int row) {
     update();
 }
 
+QPixmap Chart::picture(double enlargement) const {
+    QPixmap picture((QSizeF(size()) * enlargement * devicePixelRatioF()).toSize());
+    picture.setDevicePixelRatio(devicePixelRatioF());
+    const ChartColours colours = chartColours(palette());
+    picture.fill(colours.background);
+    QPainter painter(&picture);
+    paintChart(painter, content_, colours, enlargement / kTwipsPerPixel);
+    return picture;
+}
+
 MousePointerShape Chart::MousePointer() const {
     return cursor().shape() == Qt::WhatsThisCursor ? MousePointerShape::ArrowQuestion
                                                    : MousePointerShape::Default;

@@ -1,6 +1,7 @@
 // A line chart of up to seven series.
 #pragma once
 
+#include <QPixmap>
 #include <QWidget>
 
 #include "controls/chart_content.h"
@@ -43,6 +44,9 @@ class Chart final : public QWidget {
 
     // Makes one row stand out; none for 0.
     void setMarkedRow(int row);
+
+    // The chart as it stands, so many times as large as on the screen.
+    QPixmap picture(double enlargement) const;
 
     MousePointerShape MousePointer() const;
     void setMousePointer(MousePointerShape shape);

@@ -32,14 +32,19 @@ void fillPeopleOfCategory(ItemList& list, Long catId) {
     fillFrom(people, list);
 }
 
-std::vector<ListEntry> readCategories() {
-    Connection connection = openPersonDatabase();
-    Recordset categories(connection, statements::categories());
+std::vector<ListEntry> categoryEntries(Recordset& categories) {
     std::vector<ListEntry> entries;
-    for (categories.MoveFirst(); !categories.EndOfFile(); categories.MoveNext())
+    for (; !categories.EndOfFile(); categories.MoveNext())
         entries.push_back(
             {categories.Fields(u"Category").toText(), categories.Fields(u"CatID").toLong()});
     return entries;
+}
+
+std::vector<ListEntry> readCategories() {
+    Connection connection = openPersonDatabase();
+    Recordset categories(connection, statements::categories());
+    categories.MoveFirst();
+    return categoryEntries(categories);
 }
 
 std::vector<ListEntry> readCategoryEntries() {

@@ -4,12 +4,17 @@
 #include "cycles/integers.h"
 #include "store/item_list.h"
 
+class Recordset;
+
 // Fills a list with all people: the display text, and the NameID as item data.
 // Raises 3021 if there is nobody; the list is empty then.
 void fillPeople(ItemList& list);
 
 // The same with the people of one category, who may be nobody.
 void fillPeopleOfCategory(ItemList& list, Long catId);
+
+// The categories of a set from its current row on, each with its CatID as item data.
+std::vector<ListEntry> categoryEntries(Recordset& categories);
 
 // All categories in the order of the store, with the CatID as item data. Raises 3021 if there is
 // none.

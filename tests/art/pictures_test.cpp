@@ -3,8 +3,13 @@
 
 #include <QDir>
 #include <QImage>
+#include <QRegularExpression>
 #include <algorithm>
 #include <cmath>
+#include <set>
+
+#include "cycles/calendar.h"
+#include "cycles/star_sign.h"
 
 namespace {
 
@@ -15,12 +20,15 @@ QImage picture(const QString& name) {
     return QImage(QStringLiteral(":/art/%1.png").arg(name));
 }
 
-// The names of the pictures that are drawn for one size.
+// The end of the name of a picture that stands in another size than it is drawn in.
+const QRegularExpression kOtherSize(QStringLiteral("-[0-9]+\\.png$"));
+
+// The names of the pictures in the size that they are drawn in.
 QStringList names() {
     QStringList names;
     const QStringList files = QDir(QStringLiteral(":/art")).entryList();
     for (const QString& file : files)
-        if (!file.contains(u'@') && !file.startsWith(QStringLiteral("ondara-")))
+        if (!file.contains(u'@') && !file.contains(kOtherSize))
             names << file.chopped(4);
     return names;
 }
@@ -31,6 +39,16 @@ QStringList iconNames() {
     for (const char* other : {"ondara", "splash", "wait"})
         icons.removeOne(QLatin1String(other));
     return icons;
+}
+
+// The names of the star signs, in small letters.
+std::set<QString> starSigns() {
+    std::set<QString> signs;
+    for (int day = 0; day < 366; ++day) {
+        const Date date = modCycles::DateSerial(2000, 1, 1) + day;
+        signs.insert(QString::fromLatin1(modCycles::GetStarSign(date)).toLower());
+    }
+    return signs;
 }
 
 double linear(int channel) {
@@ -85,6 +103,36 @@ TEST(Icons, AreLegibleOnLightAndOnDark) {
             }
         EXPECT_GT(drawn, 0) << qPrintable(name);
     }
+}
+
+TEST(StarSigns, HaveAPictureEachUnderTheirNameInSmallLetters) {
+    EXPECT_EQ(starSigns().size(), 12U);
+    for (const QString& sign : starSigns())
+        EXPECT_TRUE(iconNames().contains(sign)) << qPrintable(sign);
+}
+
+TEST(StarSigns, HavePicturesOfWhichNoTwoAreAlike) {
+    std::set<QByteArray> pictures;
+    for (const QString& sign : starSigns()) {
+        const QImage image = picture(sign);
+        pictures.emplace(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes());
+    }
+    EXPECT_EQ(pictures.size(), starSigns().size());
+}
+
+TEST(StarSigns, StandInTwiceTheirSizeToo) {
+    for (const QString& sign : starSigns()) {
+        const QString name = sign + QStringLiteral("-48");
+        EXPECT_EQ(picture(name).size(), QSize(48, 48)) << qPrintable(sign);
+        EXPECT_EQ(picture(name + QStringLiteral("@2x")).size(), QSize(96, 96)) << qPrintable(sign);
+        EXPECT_EQ(picture(name + QStringLiteral("@3x")).size(), QSize(144, 144))
+            << qPrintable(sign);
+    }
+}
+
+TEST(Genders, HaveAPictureEach) {
+    for (const char* gender : {"male", "female"})
+        EXPECT_TRUE(iconNames().contains(QLatin1String(gender))) << gender;
 }
 
 TEST(ApplicationIcon, StandsInTheSizesThatDesktopsAskFor) {

@@ -49,3 +49,12 @@ double plainBirthdate(const QString& database, Long nameId) {
     row.bind(1, nameId);
     return row.executeStep() ? row.getColumn(0).getDouble() : 0;
 }
+
+std::vector<double> plainBirthdates(const QString& database) {
+    const SQLite::Database file(database.toStdString());
+    SQLite::Statement rows(file, "SELECT Birthdate FROM Data");
+    std::vector<double> birthdates;
+    while (rows.executeStep())
+        birthdates.push_back(rows.getColumn(0).getDouble());
+    return birthdates;
+}

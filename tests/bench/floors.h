@@ -25,3 +25,6 @@ std::vector<std::string> plainCategories(const QString& database);
 
 // The birth date of a person, as days since 30 December 1899.
 double plainBirthdate(const QString& database, Long nameId);
+
+// The birth dates of all people, as days since 30 December 1899.
+std::vector<double> plainBirthdates(const QString& database);

@@ -3,7 +3,7 @@
 usage: measure.py PROGRAMS SCHEMA
 
 Makes a program directory for each number of people, starts Ondara there in turn with an empty
-window, and runs the routines of the main window. Every figure is a median. A ratio of starts is
+window, and runs the routines of the main window and of the forms over it. Every figure is a median. A ratio of starts is
 that of neighbours in one round, so it holds while the machine is busy with something else.
 """
 
@@ -28,6 +28,8 @@ PAINTED_AIM = {10: 1.8, 1_000: 1.8, 100_000: 3}
 MEMORY_AIM = {10: 1.5, 1_000: 1.5, 100_000: 3}
 LISTED_AIM = {100_000: 120}
 CLICKED_AIM = {people: 8 for people in PEOPLE}
+BIRTHDAY_AIM = {people: 30 for people in PEOPLE}
+CARD_AIM = {people: 8 for people in PEOPLE}
 
 # A routine may grow by this much more than n log n from 1,000 people to 100,000: the processor's
 # caches hold the former and not the latter.
@@ -44,6 +46,8 @@ ROUTINES = [
     ('FillCategoryList', 'fillCategoryList', {}),
     ('category picked', 'pickCategory', {}),
     ('name clicked to chart painted', 'clickName', CLICKED_AIM),
+    ('day picked to birthdays painted', 'pickBirthday', BIRTHDAY_AIM),
+    ('person\'s card opened to painted', 'openCard', CARD_AIM),
 ]
 FAVOURITES = [
     ('favourites listed', 'fillFavouritesMenu'),

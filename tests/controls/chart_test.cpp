@@ -113,3 +113,33 @@ TEST_F(ChartTest, KeepsItsToolTipText) {
     EXPECT_EQ(chart_.ToolTipText(), QStringLiteral("14/03/2000: Emot.: 62%"));
     EXPECT_EQ(chart_.toolTip(), chart_.ToolTipText());
 }
+
+TEST_F(ChartTest, IsPicturedAsItStands) {
+    chart_.setChartData(smallTable());
+    chart_.setLegendFont(QStringLiteral("Arial"), 8);
+    EXPECT_EQ(chart_.picture(1).toImage(), chart_.grab().toImage());
+}
+
+TEST_F(ChartTest, IsPicturedInAnySize) {
+    EXPECT_EQ(chart_.picture(2).deviceIndependentSize(), QSizeF(674, 482));
+    EXPECT_EQ(chart_.picture(0.5).deviceIndependentSize(), QSizeF(169, 121));
+}
+
+TEST_F(ChartTest, FillsItsPictureToTheLowerRightEnd) {
+    chart_.setChartData(smallTable());
+    chart_.setShowLegend(true);
+    const QImage picture = chart_.picture(2).toImage();
+    const QImage end = picture.copy(picture.width() / 2, picture.height() / 2, 300, 200);
+    QImage nothing = end;
+    nothing.fill(chart_.palette().color(QPalette::Base));
+    EXPECT_NE(end, nothing);
+}
+
+TEST_F(ChartTest, LeavesAPictureAsItIsWhenItChanges) {
+    chart_.setChartData(smallTable());
+    const QPixmap before = chart_.picture(2);
+    const QImage then = before.toImage();
+    chart_.setChartData({{QStringLiteral("one")}, {{99}}});
+    EXPECT_EQ(before.toImage(), then);
+    EXPECT_NE(chart_.picture(2).toImage(), then);
+}

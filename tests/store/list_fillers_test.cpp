@@ -6,6 +6,8 @@
 #include <QFile>
 
 #include "store/databases.h"
+#include "store/recordset.h"
+#include "store/statements.h"
 #include "support/errors.h"
 #include "support/people.h"
 #include "support/program_directory.h"
@@ -131,4 +133,21 @@ TEST_F(ListFillersTest, ReadTheCategoriesAloneInTheOrderOfTheStore) {
 TEST_F(ListFillersTest, RaiseNoCurrentRecordWithoutCategories) {
     EXPECT_EQ(errorOf([] { readCategoryEntries(); }), 3021);
     EXPECT_EQ(errorOf([] { readCategories(); }), 3021);
+}
+
+TEST_F(ListFillersTest, ReadTheCategoriesOfASetInTheOrderOfTheStore) {
+    const Long family = addCategory(directory_.people(), QStringLiteral("Family"));
+    const Long aunts = addCategory(directory_.people(), QStringLiteral("Aunts"));
+    Connection connection = openPersonDatabase();
+    Recordset categories(connection, statements::categories());
+    list_.fill(categoryEntries(categories));
+    EXPECT_EQ(list_.lines(), (QStringList{QStringLiteral("Family=%1").arg(family),
+                                          QStringLiteral("Aunts=%1").arg(aunts)}));
+    EXPECT_TRUE(categories.EndOfFile());
+}
+
+TEST_F(ListFillersTest, ReadNoCategoriesFromASetWithoutAny) {
+    Connection connection = openPersonDatabase();
+    Recordset categories(connection, statements::categories());
+    EXPECT_TRUE(categoryEntries(categories).empty());
 }

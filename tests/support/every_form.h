@@ -6,7 +6,10 @@
 
 #include <type_traits>
 
+#include "controls/list_box.h"
 #include "shell/frmMain.h"
+#include "shell/handover.h"
+#include "shell/main_controls.h"
 #include "support/form_rules.h"
 #include "support/main_window.h"
 
@@ -19,7 +22,8 @@ struct Drawn {
     static constexpr OnEscape kOnEscape = Behaviour;
 };
 
-// The form is shown as its command shows it: over the main window, where a person is chosen.
+// The form is shown as its command shows it: over the main window, where a person is chosen and
+// handed over.
 template <class Row>
 class EveryForm : public MainWindowTest {
   protected:
@@ -27,6 +31,8 @@ class EveryForm : public MainWindowTest {
 
     EveryForm() {
         frmMain& main = loadAndChoose(QStringLiteral("Smith, Anna"));
+        modCycles::SelectedNameID =
+            mainControls().lstMain->ItemData(mainControls().lstMain->ListIndex());
         if constexpr (std::is_same_v<Shown, frmMain>) {
             form_ = &main;
         } else {
@@ -38,6 +44,8 @@ class EveryForm : public MainWindowTest {
         }
         form_->Show();
     }
+
+    ~EveryForm() override { modCycles::SelectedNameID = 0; }
 
     Form& form() { return *form_; }
 

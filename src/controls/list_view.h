@@ -1,0 +1,46 @@
+// A list on the screen in columns, with a header above each and a small picture before each row.
+#pragma once
+
+#include <QTreeView>
+
+#include "controls/report_model.h"
+
+// Only the rows that are on the screen are measured, so their number costs next to nothing. Sorting
+// is by the text as it is shown, and stays on for the rows that come later; a click on a header
+// sorts nothing by itself.
+class ListView final : public QTreeView {
+    Q_OBJECT
+
+  public:
+    explicit ListView(QWidget* parent = nullptr);
+
+    // Replaces all columns. The rows stay.
+    void setColumns(std::vector<ListColumn> columns);
+
+    void Clear() { fill({}); }
+
+    // Replaces all rows and takes the selection away.
+    void fill(std::vector<ListRow> rows);
+
+    void AddRow(ListRow row) { model_.add(std::move(row)); }
+
+    // The index of the column to sort by, from 0 on; the order; and whether the rows are sorted. A
+    // change sorts the rows that are there, as long as Sorted is set. setSortKey raises 380 below
+    // 0.
+    int SortKey() const { return model_.sorting().key; }
+    void setSortKey(int column);
+    ListSortOrder SortOrder() const { return model_.sorting().order; }
+    void setSortOrder(ListSortOrder order);
+    bool Sorted() const { return model_.sorting().isOn; }
+    void setSorted(bool sorted);
+
+  Q_SIGNALS:
+    // The header of a column was clicked; columns count from 1.
+    void ColumnClick(int column);
+
+  private:
+    void setSorting(const ListSorting& sorting);
+    void showSorting();
+
+    ReportModel model_;
+};

@@ -1,0 +1,10 @@
+// The pictures that stand for something by key: the star signs, "aquarius" to "virgo".
+#pragma once
+
+#include <QPixmap>
+
+// The picture for a key, 24 pixels wide, for the rows of a list. The key must have one.
+QPixmap smallPicture(const QString& key);
+
+// The same, 48 pixels wide, for a card.
+QPixmap largePicture(const QString& key);

@@ -1,0 +1,122 @@
+// The rows and their order.
+#include "controls/report_model.h"
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
+#include "controls/pictures.h"
+#include "runtime/text_order.h"
+
+namespace {
+
+QStringView shownText(const ListRow& row, int column) {
+    return column < row.texts.size() ? QStringView(row.texts[column]) : QStringView();
+}
+
+// The comparison that a sorting asks for.
+class RowOrder {
+  public:
+    explicit RowOrder(const ListSorting& sorting) : sorting_(sorting) {}
+
+    bool operator()(const ListRow& a, const ListRow& b) const {
+        const auto order = compareTexts(shownText(a, sorting_.key), shownText(b, sorting_.key));
+        return sorting_.order == ListSortOrder::Ascending ? order < 0 : order > 0;
+    }
+
+  private:
+    ListSorting sorting_;
+};
+
+// The index of every row, in the order that they are to stand in.
+std::vector<std::size_t> indexesInOrder(const std::vector<ListRow>& rows, const RowOrder& order) {
+    std::vector<std::size_t> indexes(rows.size());
+    std::iota(indexes.begin(), indexes.end(), std::size_t{0});
+    std::stable_sort(indexes.begin(), indexes.end(),
+                     [&](std::size_t a, std::size_t b) { return order(rows[a], rows[b]); });
+    return indexes;
+}
+
+}  // namespace
+
+void ReportModel::setColumns(std::vector<ListColumn> columns) {
+    beginResetModel();
+    columns_ = std::move(columns);
+    endResetModel();
+}
+
+void ReportModel::setSorting(const ListSorting& sorting) {
+    if (sorting == sorting_)
+        return;
+    sorting_ = sorting;
+    if (sorting_.isOn)
+        sortRows();
+}
+
+// What a view remembers of a row, its selection among it, stays with the row.
+void ReportModel::sortRows() {
+    Q_EMIT layoutAboutToBeChanged();
+    std::vector<ListRow> rows;
+    rows.reserve(rows_.size());
+    std::vector<int> newIndexes(rows_.size());
+    for (const std::size_t old : indexesInOrder(rows_, RowOrder(sorting_))) {
+        newIndexes[old] = static_cast<int>(rows.size());
+        rows.push_back(std::move(rows_[old]));
+    }
+    rows_ = std::move(rows);
+    for (const QModelIndex& kept : persistentIndexList()) {
+        const int row = newIndexes[static_cast<std::size_t>(kept.row())];
+        changePersistentIndex(kept, index(row, kept.column()));
+    }
+    Q_EMIT layoutChanged();
+}
+
+void ReportModel::fill(std::vector<ListRow> rows) {
+    beginResetModel();
+    rows_ = std::move(rows);
+    if (sorting_.isOn)
+        std::stable_sort(rows_.begin(), rows_.end(), RowOrder(sorting_));
+    endResetModel();
+}
+
+void ReportModel::add(ListRow row) {
+    const auto place = sorting_.isOn
+                           ? std::upper_bound(rows_.begin(), rows_.end(), row, RowOrder(sorting_))
+                           : rows_.end();
+    const int newIndex = static_cast<int>(place - rows_.begin());
+    beginInsertRows({}, newIndex, newIndex);
+    rows_.insert(place, std::move(row));
+    endInsertRows();
+}
+
+int ReportModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+}
+
+int ReportModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(columns_.size());
+}
+
+QVariant ReportModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid())
+        return {};
+    const ListRow& row = rows_[static_cast<std::size_t>(index.row())];
+    if (role == Qt::DisplayRole)
+        return shownText(row, index.column()).toString();
+    if (role == Qt::DecorationRole && index.column() == 0 && !row.smallIcon.isEmpty())
+        return smallPicture(row.smallIcon);
+    if (role == Qt::TextAlignmentRole)
+        return headerData(index.column(), Qt::Horizontal, role);
+    return {};
+}
+
+QVariant ReportModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal)
+        return {};
+    const ListColumn& column = columns_[static_cast<std::size_t>(section)];
+    if (role == Qt::DisplayRole)
+        return column.header;
+    if (role == Qt::TextAlignmentRole)
+        return static_cast<int>(column.alignment | Qt::AlignVCenter);
+    return {};
+}

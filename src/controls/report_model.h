@@ -1,0 +1,62 @@
+// The rows of a list view as Qt's views read them.
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QString>
+#include <QStringList>
+#include <optional>
+#include <vector>
+
+struct ListColumn {
+    QString header;
+    std::optional<int> width = {};  // twips; none: what the other columns leave
+    Qt::Alignment alignment = Qt::AlignLeft;
+};
+
+struct ListRow {
+    QString smallIcon = {};  // the key of the picture before the first text; none if empty
+    QStringList texts = {};  // from the first column on; those that are missing are empty
+};
+
+enum class ListSortOrder { Ascending = 0, Descending = 1 };
+
+// By what a list view sorts its rows.
+struct ListSorting {
+    int key = 0;  // the index of a column
+    ListSortOrder order = ListSortOrder::Ascending;
+    bool isOn = false;
+
+    friend bool operator==(const ListSorting&, const ListSorting&) = default;
+};
+
+// Holds columns and rows. While sorting is on, the rows stand in the one order of texts
+// (text_order.h) of a column, numbers too: "10" before "9". Rows of equal texts keep the order that
+// they had. Switching it off leaves the rows as they stand.
+class ReportModel final : public QAbstractTableModel {
+    Q_OBJECT
+
+  public:
+    const std::vector<ListColumn>& columns() const { return columns_; }
+    void setColumns(std::vector<ListColumn> columns);
+
+    const ListSorting& sorting() const { return sorting_; }
+    void setSorting(const ListSorting& sorting);
+
+    // Replaces all rows, in one reset.
+    void fill(std::vector<ListRow> rows);
+
+    // Adds a row: in its place while sorting is on, at the end otherwise.
+    void add(ListRow row);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+  private:
+    void sortRows();
+
+    std::vector<ListColumn> columns_;
+    std::vector<ListRow> rows_;
+    ListSorting sorting_;
+};

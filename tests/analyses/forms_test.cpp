@@ -1,0 +1,10 @@
+// What holds for every form, for those of the analyses.
+#include "analyses/frmBirthdayToday.h"
+#include "support/every_form.h"
+
+namespace {
+
+using Forms = testing::Types<Drawn<frmBirthdayToday, OnEscape::Closes>>;
+INSTANTIATE_TYPED_TEST_SUITE_P(Analyses, EveryForm, Forms);
+
+}  // namespace

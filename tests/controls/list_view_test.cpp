@@ -1,0 +1,160 @@
+// The list in columns under the user's mouse and keys.
+#include "controls/list_view.h"
+
+#include <gtest/gtest.h>
+
+#include <QHeaderView>
+
+#include "support/errors.h"
+#include "support/event_counter.h"
+#include "support/recording_host.h"
+#include "support/widget_driver.h"
+
+namespace {
+
+class ListViewTest : public testing::Test, public QObject {
+  protected:
+    ListViewTest() {
+        view_.setColumns(
+            {{.header = QStringLiteral("Name")}, {.header = QStringLiteral("Age"), .width = 900}});
+        view_.fill({row("Zed", "9"), row("abe", "10"), row("Curie", "9")});
+        view_.resize(300, 200);
+        view_.show();
+        onEvent(&view_, &ListView::ColumnClick, this, &ListViewTest::columnClicked);
+    }
+
+    static ListRow row(const char* name, const char* age) {
+        return {.smallIcon = QStringLiteral("leo"),
+                .texts = {QString::fromUtf8(name), QString::fromUtf8(age)}};
+    }
+
+    QStringList names() {
+        QStringList names;
+        for (int i = 0; i < view_.model()->rowCount(); ++i)
+            names += view_.model()->index(i, 0).data().toString();
+        return names;
+    }
+
+    QModelIndexList selectedRows() { return view_.selectionModel()->selectedRows(); }
+
+    void clickHeader(int section) {
+        QHeaderView& header = *view_.header();
+        const int x = header.sectionViewportPosition(section) + header.sectionSize(section) / 2;
+        click(*header.viewport(), {x, header.height() / 2});
+    }
+
+    void columnClicked(int column) { clickedColumns_.push_back(column); }
+
+    RecordingHost host_;
+    ListView view_;
+    std::vector<int> clickedColumns_;
+};
+
+const QStringList kByName{QStringLiteral("abe"), QStringLiteral("Curie"), QStringLiteral("Zed")};
+const QStringList kByAge{QStringLiteral("abe"), QStringLiteral("Zed"), QStringLiteral("Curie")};
+const QStringList kAsFilled{QStringLiteral("Zed"), QStringLiteral("abe"), QStringLiteral("Curie")};
+
+}  // namespace
+
+TEST_F(ListViewTest, TellsWhichHeaderIsClickedAndSortsNothingByItself) {
+    clickHeader(1);
+    clickHeader(0);
+    EXPECT_EQ(clickedColumns_, std::vector({2, 1}));
+    EXPECT_EQ(names(), kAsFilled);
+    EXPECT_FALSE(view_.header()->isSortIndicatorShown());
+}
+
+TEST_F(ListViewTest, SortsByItsKeyOnceItIsSorted) {
+    view_.setSortKey(1);
+    EXPECT_EQ(names(), kAsFilled);
+    view_.setSorted(true);
+    EXPECT_EQ(names(), kByAge);
+    view_.setSortKey(0);
+    EXPECT_EQ(names(), kByName);
+    view_.setSortOrder(ListSortOrder::Descending);
+    EXPECT_EQ(names(), QStringList(kByName.rbegin(), kByName.rend()));
+    EXPECT_EQ(view_.SortKey(), 0);
+    EXPECT_EQ(view_.SortOrder(), ListSortOrder::Descending);
+    EXPECT_TRUE(view_.Sorted());
+}
+
+TEST_F(ListViewTest, StaysSortedWhenItIsFilledAnew) {
+    view_.setSorted(true);
+    view_.Clear();
+    EXPECT_EQ(names(), QStringList());
+    view_.fill({row("Zed", "1"), row("Curie", "2")});
+    view_.AddRow(row("abe", "3"));
+    EXPECT_EQ(names(), kByName);
+}
+
+TEST_F(ListViewTest, PointsInTheHeaderToWhatItIsSortedByAndNotToWhatIsClicked) {
+    view_.setSorted(true);
+    EXPECT_TRUE(view_.header()->isSortIndicatorShown());
+    for (const int section : {0, 0, 1}) {
+        clickHeader(section);
+        EXPECT_EQ(view_.header()->sortIndicatorSection(), 0);
+        EXPECT_EQ(view_.header()->sortIndicatorOrder(), Qt::AscendingOrder);
+    }
+}
+
+TEST_F(ListViewTest, RefusesASortKeyBelowNought) {
+    EXPECT_EQ(errorOf([&] { view_.setSortKey(-1); }), 380);
+    EXPECT_EQ(view_.SortKey(), 0);
+}
+
+TEST_F(ListViewTest, SelectsTheWholeRowAndKeepsItSelectedThroughASort) {
+    click(*view_.viewport(), view_.visualRect(view_.model()->index(0, 1)).center());
+    ASSERT_EQ(selectedRows().size(), 1);
+    view_.setSorted(true);
+    ASSERT_EQ(selectedRows().size(), 1);
+    EXPECT_EQ(selectedRows().front().data().toString(), QStringLiteral("Zed"));
+}
+
+TEST_F(ListViewTest, HasARowForScreenReadersAndNoneSelectedAfterAFill) {
+    view_.setCurrentIndex(view_.model()->index(2, 0));
+    view_.fill({row("abe", "3")});
+    EXPECT_EQ(view_.currentIndex().row(), 0);
+    EXPECT_TRUE(selectedRows().isEmpty());
+    view_.Clear();
+    EXPECT_FALSE(view_.currentIndex().isValid());
+}
+
+TEST_F(ListViewTest, GivesAColumnItsWidthAndTheRestToTheOneThatHasNone) {
+    EXPECT_EQ(view_.header()->sectionSize(1), 60);
+    EXPECT_EQ(view_.header()->sectionSize(0), view_.viewport()->width() - 60);
+    view_.setColumns({{.header = QStringLiteral("Date"), .width = 3500}});
+    EXPECT_EQ(view_.header()->count(), 1);
+    EXPECT_EQ(view_.header()->sectionSize(0), 233);
+    EXPECT_EQ(view_.model()->rowCount(), 3);
+}
+
+TEST_F(ListViewTest, LeavesNoRoomForBranchesAndMakesRowsAsHighAsTheirPictures) {
+    const QRect first = view_.visualRect(view_.model()->index(0, 0));
+    EXPECT_EQ(first.left(), 0);
+    EXPECT_GE(first.height(), 24);
+}
+
+TEST_F(ListViewTest, KeepsThePictureOfASelectedRowOnThePlainBackground) {
+    view_.setCurrentIndex(view_.model()->index(1, 0));
+    const auto colourIn = [this](int rowIndex, int x) {
+        const QRect row = view_.visualRect(view_.model()->index(rowIndex, 0));
+        return view_.viewport()->grab().toImage().pixelColor(row.left() + x, row.center().y());
+    };
+    const QColor plain = view_.palette().color(QPalette::Base);
+    const int inPicture = 10;
+    const int behindTheText = 200;
+    EXPECT_EQ(colourIn(0, inPicture), colourIn(1, inPicture));
+    EXPECT_EQ(colourIn(0, behindTheText), plain);
+    EXPECT_NE(colourIn(1, behindTheText), plain);
+}
+
+TEST_F(ListViewTest, ListsAHundredThousandRows) {
+    std::vector<ListRow> many;
+    for (int i = 99'999; i >= 0; --i)
+        many.push_back({.smallIcon = QStringLiteral("leo"),
+                        .texts = {QStringLiteral("Person %1").arg(i, 6, 10, QLatin1Char('0'))}});
+    view_.setSorted(true);
+    view_.fill(std::move(many));
+    pressKey(view_, Qt::Key_End);
+    EXPECT_EQ(view_.currentIndex().data().toString(), QStringLiteral("Person 099999"));
+}

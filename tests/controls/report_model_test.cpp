@@ -1,0 +1,157 @@
+// The rows of a list view as views read them.
+#include "controls/report_model.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModelTester>
+#include <QPixmap>
+
+#include "support/printing.h"
+
+namespace {
+
+ListRow row(const QString& name, const QString& age) {
+    return {.texts = {name, age}};
+}
+
+class ReportModelTest : public testing::Test {
+  protected:
+    ReportModelTest() {
+        model_.setColumns({{.header = QStringLiteral("Name")},
+                           {.header = QStringLiteral("Age"), .alignment = Qt::AlignRight}});
+    }
+
+    void fillThree() {
+        model_.fill({row(QStringLiteral("Zed"), QStringLiteral("9")),
+                     row(QStringLiteral("\u00c9mile"), QStringLiteral("10")),
+                     row(QStringLiteral("abe"), QStringLiteral("9"))});
+    }
+
+    QString textAt(int rowIndex, int column) {
+        return model_.data(model_.index(rowIndex, column), Qt::DisplayRole).toString();
+    }
+
+    QStringList names() {
+        QStringList names;
+        for (int i = 0; i < model_.rowCount(); ++i)
+            names += textAt(i, 0);
+        return names;
+    }
+
+    ReportModel model_;
+    QAbstractItemModelTester tester_{&model_,
+                                     QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+
+const QString kZed = QStringLiteral("Zed");
+const QString kEmile = QStringLiteral("\u00c9mile");
+const QString kAbe = QStringLiteral("abe");
+constexpr ListSorting kByName{.key = 0, .isOn = true};
+constexpr ListSorting kByAge{.key = 1, .isOn = true};
+
+TEST_F(ReportModelTest, ShowsEveryTextInItsColumnUnderItsHeader) {
+    fillThree();
+    ASSERT_EQ(model_.rowCount(), 3);
+    ASSERT_EQ(model_.columnCount(), 2);
+    EXPECT_EQ(textAt(1, 0), kEmile);
+    EXPECT_EQ(textAt(1, 1), QStringLiteral("10"));
+    EXPECT_EQ(model_.headerData(1, Qt::Horizontal, Qt::DisplayRole), QStringLiteral("Age"));
+    EXPECT_FALSE(model_.headerData(1, Qt::Vertical, Qt::DisplayRole).isValid());
+}
+
+TEST_F(ReportModelTest, AlignsTextsAsTheirHeader) {
+    fillThree();
+    EXPECT_EQ(model_.headerData(1, Qt::Horizontal, Qt::TextAlignmentRole).toInt(),
+              static_cast<int>(Qt::AlignRight | Qt::AlignVCenter));
+    EXPECT_EQ(model_.data(model_.index(0, 1), Qt::TextAlignmentRole).toInt(),
+              static_cast<int>(Qt::AlignRight | Qt::AlignVCenter));
+    EXPECT_EQ(model_.data(model_.index(0, 0), Qt::TextAlignmentRole).toInt(),
+              static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter));
+}
+
+TEST_F(ReportModelTest, ShowsThePictureOfItsKeyBeforeTheFirstText) {
+    model_.fill({{.smallIcon = QStringLiteral("leo"), .texts = {kZed}}, {.texts = {kAbe}}});
+    const auto picture = [this](int rowIndex, int column) {
+        return model_.data(model_.index(rowIndex, column), Qt::DecorationRole);
+    };
+    EXPECT_FALSE(picture(0, 0).value<QPixmap>().isNull());
+    EXPECT_FALSE(picture(0, 1).isValid());
+    EXPECT_FALSE(picture(1, 0).isValid());
+}
+
+TEST_F(ReportModelTest, ShowsNothingWhereARowHasNoText) {
+    model_.fill({{.texts = {kZed}}, {}});
+    EXPECT_EQ(textAt(0, 1), QString());
+    EXPECT_EQ(textAt(1, 0), QString());
+}
+
+TEST_F(ReportModelTest, TellsOfOneResetForAWholeFill) {
+    int resets = 0;
+    QObject::connect(&model_, &ReportModel::modelReset, &model_, [&] { ++resets; });
+    fillThree();
+    EXPECT_EQ(resets, 1);
+}
+
+TEST_F(ReportModelTest, KeepsTheGivenOrderUntilItIsSorted) {
+    fillThree();
+    model_.add(row(QStringLiteral("Curie"), QStringLiteral("1")));
+    EXPECT_EQ(names(), QStringList({kZed, kEmile, kAbe, QStringLiteral("Curie")}));
+    model_.setSorting({.key = 1, .isOn = false});
+    EXPECT_EQ(names(), QStringList({kZed, kEmile, kAbe, QStringLiteral("Curie")}));
+}
+
+TEST_F(ReportModelTest, SortsWithoutRegardToCaseAndAccents) {
+    fillThree();
+    model_.setSorting(kByName);
+    EXPECT_EQ(names(), QStringList({kAbe, kEmile, kZed}));
+}
+
+TEST_F(ReportModelTest, SortsNumbersAsTextAndLeavesEqualOnesInTheirOrder) {
+    fillThree();
+    model_.setSorting(kByAge);
+    EXPECT_EQ(names(), QStringList({kEmile, kZed, kAbe}));
+}
+
+TEST_F(ReportModelTest, SortsDownwardsToo) {
+    fillThree();
+    model_.setSorting({.key = 1, .order = ListSortOrder::Descending, .isOn = true});
+    EXPECT_EQ(names(), QStringList({kZed, kAbe, kEmile}));
+}
+
+TEST_F(ReportModelTest, SortsAnewByAnotherColumn) {
+    fillThree();
+    model_.setSorting(kByAge);
+    model_.setSorting(kByName);
+    EXPECT_EQ(names(), QStringList({kAbe, kEmile, kZed}));
+}
+
+TEST_F(ReportModelTest, GoesOnSortingWhatComesLater) {
+    model_.setSorting(kByAge);
+    fillThree();
+    EXPECT_EQ(names(), QStringList({kEmile, kZed, kAbe}));
+    model_.add(row(QStringLiteral("Curie"), QStringLiteral("85")));
+    model_.add(row(QStringLiteral("Baby"), QStringLiteral("-1")));
+    model_.add(row(QStringLiteral("Third"), QStringLiteral("9")));
+    EXPECT_EQ(names(), QStringList({QStringLiteral("Baby"), kEmile, QStringLiteral("Curie"), kZed,
+                                    kAbe, QStringLiteral("Third")}));
+}
+
+TEST_F(ReportModelTest, LeavesItsRowsWhereTheyStandWhenSortingIsSwitchedOff) {
+    fillThree();
+    model_.setSorting(kByName);
+    model_.setSorting({});
+    EXPECT_EQ(names(), QStringList({kAbe, kEmile, kZed}));
+    model_.add(row(QStringLiteral("Curie"), {}));
+    EXPECT_EQ(names().last(), QStringLiteral("Curie"));
+}
+
+TEST_F(ReportModelTest, KeepsAViewsRememberedRowsThroughASort) {
+    fillThree();
+    const QPersistentModelIndex zed = model_.index(0, 1);
+    const QPersistentModelIndex abe = model_.index(2, 0);
+    model_.setSorting(kByName);
+    EXPECT_EQ(zed, model_.index(2, 1));
+    EXPECT_EQ(abe, model_.index(0, 0));
+}
+
+}  // namespace

@@ -1,6 +1,8 @@
 // The event routines of the add-person wizard.
 #include "records/frmAddNew.h"
 
+#include <utility>
+
 #include "records/new_records.h"
 #include "runtime/event.h"
 #include "runtime/host.h"
@@ -12,8 +14,6 @@
 
 namespace {
 
-constexpr int kLinesOfGuidance = 3;
-
 const QString& editCaption() {
     static const QString caption = QStringLiteral("&Edit");
     return caption;
@@ -23,13 +23,21 @@ const QString& editCaption() {
 
 frmAddNew::frmAddNew(QWidget* owner) : Form(owner), ui_(std::make_unique<Ui::frmAddNew>()) {
     ui_->setupUi(this);
-    ui_->lblIntro->setMinimumHeight(kLinesOfGuidance * fontMetrics().lineSpacing());
+    reserveRoomForGuidance();
     ui_->lstCats->setSorted(true);
     lockNames(true);
     connectEvents();
 }
 
 frmAddNew::~frmAddNew() = default;
+
+// The first step says most. Where its words have room, no step moves the controls below them.
+void frmAddNew::reserveRoomForGuidance() {
+    const QRect room(0, 0, ui_->stkSteps->minimumWidth(), QWIDGETSIZE_MAX);
+    const QString& guidance = wizard::step(wizard::kName).guidance;
+    ui_->lblIntro->setMinimumHeight(
+        fontMetrics().boundingRect(room, Qt::TextWordWrap, guidance).height());
+}
 
 void frmAddNew::connectEvents() {
     onEvent(ui_->chkG, &QCheckBox::toggled, this, &frmAddNew::chkG_Click);

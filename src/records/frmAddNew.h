@@ -35,6 +35,7 @@ class frmAddNew final : public Form {
     void Form_Unload() override;
 
   private:
+    void reserveRoomForGuidance();
     void connectEvents();
 
     void chkG_Click();

@@ -43,6 +43,13 @@ TEST_F(Wizard, StartsWithTheName) {
     EXPECT_EQ(in<DatePicker>("dtpBDate").CustomFormat(), QStringLiteral("d MMMM yyyy"));
 }
 
+TEST_F(Wizard, ProposesTheDayOnWhichItIsLoaded) {
+    frmAddNew form(&load());
+    host_.setNow(DateSerial(2000, 3, 15));
+    form.Load();
+    EXPECT_EQ(child<DatePicker>(form, QStringLiteral("dtpBDate")).Value(), DateSerial(2000, 3, 15));
+}
+
 TEST_F(Wizard, CallsItsControlsByTheirTexts) {
     open();
     const std::pair<const char*, const char16_t*> labels[] = {
@@ -101,13 +108,13 @@ TEST_F(Wizard, GivesTheNextKeyToTheControlThatTheStepNames) {
 TEST_F(Wizard, KeepsItsSizeAndRoomForItsGuidanceInEveryStep) {
     openWithEntries();
     const QSize size = wizard().size();
-    const QPoint buttons = in<QWidget>("cmdClose").pos();
+    const QRect controls = in<QWidget>("stkSteps").geometry();
     const auto& guidance = in<QLabel>("lblIntro");
     for (const Integer step : kShown) {
         goTo(step);
         QCoreApplication::sendPostedEvents();
         EXPECT_EQ(wizard().size(), size) << step;
-        EXPECT_EQ(in<QWidget>("cmdClose").pos(), buttons) << step;
+        EXPECT_EQ(in<QWidget>("stkSteps").geometry(), controls) << step;
         EXPECT_LE(guidance.heightForWidth(guidance.width()), guidance.height()) << step;
     }
 }

@@ -1,8 +1,6 @@
 // The event routines of the birthday calendar.
 #include "analyses/frmBirthdayToday.h"
 
-#include <QKeyEvent>
-
 #include "analyses/birthdays.h"
 #include "runtime/event.h"
 #include "runtime/host.h"
@@ -52,10 +50,8 @@ void frmBirthdayToday::Form_Unload() {
 }
 
 void frmBirthdayToday::Form_KeyDown(QKeyEvent& key) {
-    if (key.key() != Qt::Key_Escape)
-        return;
-    key.accept();
-    cmdClose_Click();
+    if (takeEsc(key))
+        cmdClose_Click();
 }
 
 void frmBirthdayToday::cmdClose_Click() {

@@ -100,3 +100,10 @@ void Form::closeEvent(QCloseEvent* event) {
     runEvent([this] { Unload(); });
     event->accept();
 }
+
+bool takeEsc(QKeyEvent& key) {
+    if (key.key() != Qt::Key_Escape)
+        return false;
+    key.accept();
+    return true;
+}

@@ -59,3 +59,6 @@ class Form : public QWidget {
 
     bool loaded_ = false;
 };
+
+// Whether the key is Esc, for Form_KeyDown. It is used up then.
+bool takeEsc(QKeyEvent& key);

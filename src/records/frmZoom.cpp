@@ -1,8 +1,6 @@
 // The event routines of the person's card.
 #include "records/frmZoom.h"
 
-#include <QKeyEvent>
-
 #include "controls/pictures.h"
 #include "records/person_card.h"
 #include "runtime/event.h"
@@ -32,10 +30,8 @@ void frmZoom::Form_Load() {
 }
 
 void frmZoom::Form_KeyDown(QKeyEvent& key) {
-    if (key.key() != Qt::Key_Escape)
-        return;
-    key.accept();
-    cmdClose_Click();
+    if (takeEsc(key))
+        cmdClose_Click();
 }
 
 void frmZoom::cmdClose_Click() {

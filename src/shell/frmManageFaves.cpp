@@ -1,8 +1,6 @@
 // The event routines of the form that deletes favourites.
 #include "shell/frmManageFaves.h"
 
-#include <QKeyEvent>
-
 #include "runtime/app.h"
 #include "runtime/event.h"
 #include "shell/favourites_menu.h"
@@ -25,10 +23,8 @@ void frmManageFaves::Form_Load() {
 }
 
 void frmManageFaves::Form_KeyDown(QKeyEvent& key) {
-    if (key.key() != Qt::Key_Escape)
-        return;
-    key.accept();
-    cmdClose_Click();
+    if (takeEsc(key))
+        cmdClose_Click();
 }
 
 void frmManageFaves::cmdDelete_Click() {

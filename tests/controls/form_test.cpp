@@ -170,4 +170,13 @@ TEST_F(FormLife, PressesTheButtonThatHasTheFocusByEnter) {
     EXPECT_EQ(presses, 1);
 }
 
+TEST(TakeEsc, UsesUpThatKeyAlone) {
+    for (const Qt::Key code : {Qt::Key_Escape, Qt::Key_Enter, Qt::Key_Home}) {
+        QKeyEvent key(QEvent::KeyPress, code, Qt::NoModifier);
+        key.ignore();
+        EXPECT_EQ(takeEsc(key), code == Qt::Key_Escape);
+        EXPECT_EQ(key.isAccepted(), code == Qt::Key_Escape);
+    }
+}
+
 }  // namespace

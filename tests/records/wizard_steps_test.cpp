@@ -55,7 +55,7 @@ TEST(WizardSteps, CallNextFinishAtTheSummaryAlone) {
     EXPECT_EQ(step(5).nextCaption, next);
     EXPECT_EQ(step(6).nextCaption, QStringLiteral("&Finish"));
     EXPECT_EQ(step(8).nextCaption, next);
-    for (const Integer unchanged : std::initializer_list<Integer>{1, 2, 3, 4})
+    for (Integer unchanged = 1; unchanged <= 4; ++unchanged)
         EXPECT_EQ(step(unchanged).nextCaption, QString()) << unchanged;
 }
 

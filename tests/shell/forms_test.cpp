@@ -1,12 +1,13 @@
 // What holds for every form, for those of the shell.
+#include "shell/frmAbout.h"
 #include "shell/frmSplash.h"
 #include "shell/frmWait.h"
 #include "support/every_form.h"
 
 namespace {
 
-using Forms = testing::Types<Drawn<frmMain, OnEscape::Stays>, Drawn<frmSplash, OnEscape::Closes>,
-                             Drawn<frmWait, OnEscape::Stays>>;
+using Forms = testing::Types<Drawn<frmMain, OnEscape::Stays>, Drawn<frmAbout, OnEscape::Closes>,
+                             Drawn<frmSplash, OnEscape::Closes>, Drawn<frmWait, OnEscape::Stays>>;
 INSTANTIATE_TYPED_TEST_SUITE_P(Shell, EveryForm, Forms);
 
 using MainWindowInQuickMode = MainWindowTest;

@@ -50,8 +50,7 @@ QByteArray HelpFolder::read(const QUrl& address) const {
 // folder, and what is no regular file may never end.
 QString HelpFolder::pathOf(const QUrl& address) const {
     const QString within = path_ + u'/';
-    const QFileInfo file(QDir::cleanPath(address.toLocalFile()));
-    const bool isInside = !path_.isEmpty() && file.filePath().startsWith(within) &&
-                          file.canonicalFilePath().startsWith(within);
+    const QFileInfo file(QFileInfo(address.toLocalFile()).canonicalFilePath());
+    const bool isInside = !path_.isEmpty() && file.filePath().startsWith(within);
     return isInside && file.isFile() && file.size() <= kLargestFile ? file.filePath() : QString();
 }

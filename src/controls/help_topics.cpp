@@ -4,6 +4,7 @@
 #include <QRegularExpression>
 #include <QXmlStreamReader>
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -34,7 +35,7 @@ class Reader {
         else if (isTag(tag, "/ul"))
             depth_ = std::max(depth_ - 1, 0);
         else if (isTag(tag, "object"))
-            topic_ = {{}, {}, level()};
+            topic_ = HelpTopic{{}, {}, level()};
         else if (isTag(tag, "param"))
             takeParameter(attribute(attributes, QStringLiteral("name")),
                           attribute(attributes, QStringLiteral("value")));
@@ -51,19 +52,19 @@ class Reader {
     }
 
     void takeParameter(const QString& name, const QString& value) {
-        if (isTag(name, "Name"))
-            topic_.title = value;
-        else if (isTag(name, "Local"))
-            topic_.page = value;
+        if (topic_ && isTag(name, "Name"))
+            topic_->title = value;
+        else if (topic_ && isTag(name, "Local"))
+            topic_->page = value;
     }
 
     void finishTopic() {
-        if (!topic_.title.isEmpty())
-            topics.push_back(topic_);
-        topic_.title.clear();
+        if (topic_ && !topic_->title.isEmpty())
+            topics.push_back(*topic_);
+        topic_.reset();
     }
 
-    HelpTopic topic_{};
+    std::optional<HelpTopic> topic_;  // the one that is being read
     int depth_ = 0;
 };
 

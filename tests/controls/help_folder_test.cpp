@@ -112,7 +112,10 @@ TEST(HelpFolder, IsEmptyWhereThereIsNone) {
     const HelpFolder folder(files.helpFile());
     EXPECT_TRUE(folder.topics().empty());
     EXPECT_FALSE(folder.hasPage(files.address(QStringLiteral("a.html"))));
-    EXPECT_FALSE(folder.hasPage(QUrl(QStringLiteral("file:///a.html"))));
+    files.write(QStringLiteral("../outside.html"), "<p>Outside");
+    const QUrl outside = files.address(QStringLiteral("../outside.html"));
+    EXPECT_FALSE(folder.hasPage(outside));
+    EXPECT_EQ(folder.read(outside), QByteArray());
 }
 
 #ifdef Q_OS_LINUX

@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
@@ -124,6 +125,15 @@ TEST_F(HelpWindowTest, ChoosesInTheContentsWhereALinkLed) {
     EXPECT_EQ(chosen(), QString());
     choose(QStringLiteral("First page"));
     EXPECT_EQ(page().toPlainText(), QStringLiteral("A"));
+}
+
+TEST_F(HelpWindowTest, StaysAtThePartOfAPageWhereALinkLed) {
+    files_.write(QStringLiteral("b.html"),
+                 "<p>B" + QByteArray("<p>Line").repeated(200) + "<p><a name='end'>End</a>");
+    open();
+    page().setSource(QUrl(QStringLiteral("b.html#end")));
+    EXPECT_EQ(chosen(), QStringLiteral("Second page"));
+    EXPECT_GT(page().verticalScrollBar()->value(), 0);
 }
 
 TEST_F(HelpWindowTest, GoesBackAndForward) {

@@ -13,6 +13,7 @@
 #include "runtime/event.h"
 #include "runtime/host.h"
 #include "shell/favourites_menu.h"
+#include "shell/frmAbout.h"
 #include "shell/frmMain.h"
 #include "shell/frmManageFaves.h"
 #include "shell/handover.h"
@@ -24,6 +25,8 @@ Commands::Commands(frmMain& window) : window_(window) {
     onCommand("mnuAddNew", &Commands::mnuAddNew_Click);
     onCommand("mnuBToday", &Commands::mnuBToday_Click);
     onCommand("mnuFind", &Commands::mnuFind_Click);
+    onCommand("mnuHelpAbout", &Commands::mnuHelpAbout_Click);
+    onCommand("mnuHelpContents", &Commands::mnuHelpContents_Click);
     onCommand("mnuMatchDabatase", &Commands::mnuMatchDabatase_Click);
     onCommand("mnuQuickMatch", &Commands::mnuQuickMatch_Click);
     onCommand("mnuReport", &Commands::mnuReport_Click);
@@ -79,6 +82,14 @@ void Commands::mnuAddNew_Click() {
 
 void Commands::mnuBToday_Click() {
     frmBirthdayToday(&window_).ShowModal();
+}
+
+void Commands::mnuHelpAbout_Click() {
+    frmAbout(&window_).ShowModal();
+}
+
+void Commands::mnuHelpContents_Click() {
+    host().showHelp(&window_, QStringLiteral("ondarahelp.chm"));
 }
 
 void Commands::tlbMain_ButtonMenuClick(int index) {

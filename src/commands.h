@@ -21,6 +21,8 @@ class Commands final : public QObject {
     void mnuAddNew_Click();
     void mnuBToday_Click();
     void mnuFind_Click();
+    void mnuHelpAbout_Click();
+    void mnuHelpContents_Click();
     void mnuMatchDabatase_Click();
     void mnuQuickMatch_Click();
     void mnuReport_Click();

@@ -17,6 +17,7 @@
 #include "controls/picture_button.h"
 #include "records/frmAddNew.h"
 #include "records/frmZoom.h"
+#include "shell/frmAbout.h"
 #include "shell/frmMain.h"
 #include "shell/frmManageFaves.h"
 #include "shell/handover.h"
@@ -114,6 +115,15 @@ TEST_F(CommandsTest, OpenTheFormsThatNeedNobodyWithoutAPerson) {
     start();
     expectForm<frmAddNew>("mnuAddNew");
     expectForm<frmBirthdayToday>("mnuBToday");
+    expectForm<frmAbout>("mnuHelpAbout");
+}
+
+TEST_F(CommandsTest, ShowTheHelpFileByItsNameAlone) {
+    start();
+    host_.expectHelp(QStringLiteral("ondarahelp.chm"));
+    trigger("mnuHelpContents");
+    host_.expectHelp(QStringLiteral("ondarahelp.chm"));
+    trigger("tlbMain_Help");
 }
 
 TEST_F(CommandsTest, HandTheCardThePersonWhoIsDoubleClicked) {

@@ -1,4 +1,4 @@
-// The desktop's message boxes and event queue.
+// The desktop's help, message boxes and event queue.
 #include "controls/desktop_host.h"
 
 #include <QApplication>
@@ -8,6 +8,10 @@
 #include <QWindow>
 #include <algorithm>
 #include <chrono>
+
+#include "controls/help_folder.h"
+#include "controls/help_window.h"
+#include "runtime/system_help.h"
 
 namespace {
 
@@ -51,7 +55,8 @@ void makeRoomForTitle(QMessageBox& box) {
     grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
 
-// The window that the box waits over: the owner's, or else the one that the user is in.
+// The window that a box waits over or help belongs to: the owner's, or else the one that the user
+// is in.
 QWidget* windowOf(QObject* owner) {
     const auto* widget = qobject_cast<QWidget*>(owner);
     return widget ? widget->window() : QApplication::activeWindow();
@@ -71,6 +76,24 @@ bool allWindowsHaveAppeared() {
 }
 
 }  // namespace
+
+DesktopHost::DesktopHost() = default;
+
+DesktopHost::~DesktopHost() = default;
+
+// Help that is shown anew is read anew, and stands where it stood.
+void DesktopHost::showHelp(QObject* owner, const QString& fileName) {
+    const QWidget* window = windowOf(owner);
+    if (showSystemHelp(window ? window->winId() : 0, fileName))
+        return;
+    auto help = std::make_unique<HelpWindow>(HelpFolder(fileName));
+    if (!help->hasContents())
+        return;
+    if (helpWindow_)
+        help->restoreGeometry(helpWindow_->saveGeometry());
+    helpWindow_ = std::move(help);
+    helpWindow_->show();
+}
 
 Answer DesktopHost::showMessage(const Message& message) {
     QMessageBox box(windowOf(message.owner));

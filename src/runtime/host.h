@@ -3,13 +3,17 @@
 
 #include <QLocale>
 #include <QString>
+#include <optional>
 
 #include "cycles/date.h"
+#include "cycles/integers.h"
 #include "runtime/message.h"
+#include "runtime/registry_value.h"
 
 // Everything that Ondara asks of the machine it runs on: the clock, the locale, the program's
-// place, the process, and the desktop's boxes. Nothing else asks for them, so a test that installs
-// a host of its own decides what day it is, answers every box and sees every end of the process.
+// place, the process, other programs, and the desktop's boxes. Nothing else asks for them, so a
+// test that installs a host of its own decides what day it is, answers every box and sees every
+// start of a program and every end of the process.
 class Host {
   public:
     virtual ~Host() = default;
@@ -34,6 +38,19 @@ class Host {
 
     // Whether another process runs the same executable file.
     virtual bool anotherInstanceRuns() const = 0;
+
+    // A value of the Windows registry: the number of the root's handle, the path of the key below
+    // it and the name of the value. Nothing if it cannot be read, and on any other system.
+    virtual std::optional<RegistryValue> registryValue(Long root, const QString& key,
+                                                       const QString& name) const = 0;
+
+    // Starts a program by its path and goes on at once. Raises 53 (File not found) where there is
+    // none, 70 (Permission denied) where this user may not start it, else 5.
+    virtual void startProgram(const QString& path) = 0;
+
+    // Shows a help file beside the other windows and goes on at once. A relative path begins in the
+    // current directory. Where there is no help, nothing happens.
+    virtual void showHelp(QObject* owner, const QString& fileName) = 0;
 
     // Shows the message box and waits for the answer.
     virtual Answer showMessage(const Message& message) = 0;

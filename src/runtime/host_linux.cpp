@@ -7,6 +7,7 @@
 
 #include "runtime/folder_access.h"
 #include "runtime/machine_host.h"
+#include "runtime/system_help.h"
 
 namespace {
 
@@ -33,6 +34,15 @@ bool MachineHost::anotherInstanceRuns() const {
         if (executableOf(number, other) && other.st_dev == own.st_dev && other.st_ino == own.st_ino)
             return true;
     }
+    return false;
+}
+
+std::optional<RegistryValue> MachineHost::registryValue(Long, const QString&,
+                                                        const QString&) const {
+    return std::nullopt;
+}
+
+bool showSystemHelp(quintptr, const QString&) {
     return false;
 }
 

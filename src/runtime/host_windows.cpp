@@ -6,10 +6,12 @@
 
 #include "runtime/folder_access.h"
 #include "runtime/machine_host.h"
+#include "runtime/system_help.h"
 
-// windows.h must come before the header that depends on it.
+// windows.h must come before the headers that depend on it.
 #include <windows.h>
 // clang-format off
+#include <htmlhelp.h>
 #include <tlhelp32.h>
 // clang-format on
 
@@ -31,6 +33,36 @@ QString executableOf(DWORD process) {
     return QString::fromWCharArray(path.data(), static_cast<qsizetype>(length));
 }
 
+struct CloseKeyOf {
+    using pointer = HKEY;
+    void operator()(HKEY key) const { RegCloseKey(key); }
+};
+using Key = std::unique_ptr<HKEY, CloseKeyOf>;
+
+constexpr REGSAM kKeyAccess = 0x2003f;
+constexpr DWORD kLongestValue = 1024;  // bytes
+
+// An open key; none if it is not there, or not ours to open. The handles of the roots are signed
+// numbers of 32 bits, however wide a handle is.
+Key openKey(Long root, const QString& path) {
+    const auto rootKey = reinterpret_cast<HKEY>(LONG_PTR{root});
+    HKEY key = nullptr;
+    RegOpenKeyExA(rootKey, path.toLocal8Bit().constData(), 0, kKeyAccess, &key);
+    return Key(key);
+}
+
+using HtmlHelpFunction = decltype(&HtmlHelpW);
+
+// The system's call for help; null if this Windows is without it. It stays for as long as the
+// process, as its windows live in it.
+HtmlHelpFunction htmlHelp() {
+    const HMODULE viewer = LoadLibraryExW(L"hhctrl.ocx", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    if (!viewer)
+        return nullptr;
+    const auto anyFunction = reinterpret_cast<void (*)()>(GetProcAddress(viewer, "HtmlHelpW"));
+    return reinterpret_cast<HtmlHelpFunction>(anyFunction);
+}
+
 }  // namespace
 
 bool MachineHost::anotherInstanceRuns() const {
@@ -48,6 +80,27 @@ bool MachineHost::anotherInstanceRuns() const {
             return true;
     }
     return false;
+}
+
+std::optional<RegistryValue> MachineHost::registryValue(Long root, const QString& key,
+                                                        const QString& name) const {
+    const Key opened = openKey(root, key);
+    QByteArray data(kLongestValue, '\0');
+    DWORD type = REG_NONE;
+    DWORD length = kLongestValue;
+    if (!opened || RegQueryValueExA(opened.get(), name.toLocal8Bit().constData(), nullptr, &type,
+                                    reinterpret_cast<BYTE*>(data.data()), &length) != ERROR_SUCCESS)
+        return std::nullopt;
+    data.truncate(static_cast<qsizetype>(length));
+    return RegistryValue{type, data};
+}
+
+bool showSystemHelp(quintptr window, const QString& fileName) {
+    static const HtmlHelpFunction show = htmlHelp();
+    if (!show)
+        return false;
+    show(reinterpret_cast<HWND>(window), qUtf16Printable(fileName), HH_DISPLAY_TOPIC, 0);
+    return true;
 }
 
 // Tried and not asked: a folder's read-only attribute says nothing of it.

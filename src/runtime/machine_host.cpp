@@ -3,9 +3,23 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QFileInfo>
+#include <QProcess>
 #include <cstdlib>
 
+#include "runtime/errors.h"
 #include "runtime/qt_dates.h"
+
+namespace {
+
+ErrorNumber reasonNotToStart(const QFileInfo& program) {
+    if (!program.exists())
+        return ErrorNumber::FileNotFound;
+    return program.isExecutable() ? ErrorNumber::InvalidProcedureCall
+                                  : ErrorNumber::PermissionDenied;
+}
+
+}  // namespace
 
 Date MachineHost::now() const {
     return fromQDateTime(QDateTime::currentDateTime());
@@ -30,6 +44,11 @@ QString MachineHost::shortTime(Date date) const {
 
 QString MachineHost::programDirectory() const {
     return QCoreApplication::applicationDirPath();
+}
+
+void MachineHost::startProgram(const QString& path) {
+    if (!QProcess::startDetached(path, {}))
+        throw RuntimeError(reasonNotToStart(QFileInfo(path)));
 }
 
 void MachineHost::endProcess(int exitCode) {

@@ -1,4 +1,5 @@
-// The part of the host that needs no desktop: clock, locale, the program's place and the process.
+// The part of the host that needs no desktop: clock, locale, the program's place, the registry and
+// the processes.
 #pragma once
 
 #include "runtime/host.h"
@@ -13,5 +14,8 @@ class MachineHost : public Host {
     QString shortTime(Date date) const override;
     QString programDirectory() const override;
     bool anotherInstanceRuns() const override;
+    std::optional<RegistryValue> registryValue(Long root, const QString& key,
+                                               const QString& name) const override;
+    void startProgram(const QString& path) override;
     void endProcess(int exitCode) override;
 };

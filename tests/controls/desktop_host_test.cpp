@@ -1,4 +1,4 @@
-// The message boxes of the desktop.
+// The message boxes of the desktop, and its help.
 #include "controls/desktop_host.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +8,11 @@
 #include <QTimer>
 #include <QWindow>
 
+#include "controls/help_browser.h"
+#include "controls/help_window.h"
+#include "support/help_files.h"
 #include "support/printing.h"
+#include "support/widget_driver.h"
 
 namespace {
 
@@ -102,5 +106,85 @@ TEST_F(DesktopHostTest, DoesNotWaitForEverForAWindowThatStaysAway) {
     host_.paintWindows();
     EXPECT_FALSE(window.windowHandle()->isExposed());
 }
+
+#ifndef Q_OS_WIN  // where help is shown by the system's viewer
+
+class HelpOfTheDesktop : public DesktopHostTest {
+  protected:
+    // The help windows that are there, shown or not.
+    static QList<HelpWindow*> windows() {
+        QList<HelpWindow*> found;
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (auto* help = qobject_cast<HelpWindow*>(window))
+                found.append(help);
+        }
+        return found;
+    }
+
+    static QString shownText() {
+        const auto found = windows();
+        if (found.size() != 1 || !found[0]->isVisible())
+            return QStringLiteral("not one window");
+        return child<HelpBrowser>(*found[0], QStringLiteral("page")).toPlainText();
+    }
+
+    void show() { host_.showHelp(nullptr, files_.helpFile()); }
+
+    HelpFiles files_;
+};
+
+TEST_F(HelpOfTheDesktop, IsAWindow) {
+    files_.writeContents(HelpFiles::entry("A", "a.html"));
+    files_.write(QStringLiteral("a.html"), "<p>A");
+    show();
+    EXPECT_EQ(shownText(), QStringLiteral("A"));
+}
+
+TEST_F(HelpOfTheDesktop, IsFoundFromTheCurrentDirectory) {
+    files_.writeContents(HelpFiles::entry("A", "a.html"));
+    files_.write(QStringLiteral("a.html"), "<p>A");
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(QFileInfo(files_.helpFile()).path()));
+    host_.showHelp(nullptr, QStringLiteral("test.chm"));
+    QDir::setCurrent(before);
+    EXPECT_EQ(shownText(), QStringLiteral("A"));
+}
+
+TEST_F(HelpOfTheDesktop, IsReadAnewIntoTheSamePlaceWhenItIsShownAgain) {
+    files_.writeContents(HelpFiles::entry("A", "a.html"));
+    files_.write(QStringLiteral("a.html"), "<p>A");
+    show();
+    ASSERT_EQ(windows().size(), 1);
+    windows()[0]->resize(700, 500);
+    files_.write(QStringLiteral("a.html"), "<p>New");
+    show();
+    EXPECT_EQ(shownText(), QStringLiteral("New"));
+    EXPECT_EQ(windows()[0]->size(), QSize(700, 500));
+    windows()[0]->close();
+    show();
+    EXPECT_EQ(shownText(), QStringLiteral("New"));
+}
+
+TEST_F(HelpOfTheDesktop, IsNothingWhereThereIsNoContents) {
+    show();
+    EXPECT_TRUE(windows().isEmpty());
+    files_.write(QStringLiteral("a.html"), "<p>A");
+    show();
+    EXPECT_TRUE(windows().isEmpty());
+    files_.writeContents("no contents");
+    show();
+    EXPECT_TRUE(windows().isEmpty());
+}
+
+TEST_F(HelpOfTheDesktop, StaysAsItIsWhenItIsNoLongerThere) {
+    files_.writeContents(HelpFiles::entry("A", "a.html"));
+    files_.write(QStringLiteral("a.html"), "<p>A");
+    show();
+    QFile::remove(files_.path(QStringLiteral("test.hhc")));
+    show();
+    EXPECT_EQ(shownText(), QStringLiteral("A"));
+}
+
+#endif
 
 }  // namespace

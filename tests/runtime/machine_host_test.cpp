@@ -1,4 +1,4 @@
-// The machine's host: clock, short forms, the program's place, other instances, the end.
+// The machine's host: clock, short forms, the program's place, registry, processes, the end.
 #include "runtime/machine_host.h"
 
 #include <gtest/gtest.h>
@@ -6,15 +6,24 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
+#include <QFileSystemWatcher>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTimer>
+#include <chrono>
 #include <filesystem>
 
 #include "cycles/calendar.h"
 #include "runtime/bare_machine_host.h"
 #include "runtime/qt_dates.h"
+#include "support/errors.h"
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
 
 using modCycles::DateSerial;
 
@@ -94,6 +103,37 @@ class AnotherInstance : public testing::Test {
     const QString notAlone_ = QStringLiteral("not alone");
 };
 
+// A program that leaves a file where it was started, in a folder with a blank in its name.
+class AProgram : public testing::Test {
+  protected:
+    void SetUp() override {
+        ASSERT_TRUE(QDir().mkdir(folder_.filePath(QStringLiteral("a folder"))));
+        ASSERT_TRUE(QFile::copy(QStringLiteral(ONDARA_START_PROBE), program_));
+    }
+
+    int errorOfStart(const QString& path) {
+        return errorOf([&] { BareMachineHost().startProgram(path); });
+    }
+
+    // Waits until the program has left its file, but not for ever.
+    bool leavesItsFile() const {
+        QFileSystemWatcher watcher({QFileInfo(program_).path()});
+        QEventLoop change;
+        QObject::connect(&watcher, &QFileSystemWatcher::directoryChanged, &change,
+                         &QEventLoop::quit);
+        QTimer::singleShot(std::chrono::seconds(30), &change, [&] { change.exit(1); });
+        while (!QFile::exists(program_ + QStringLiteral(".started"))) {
+            if (change.exec() != 0)
+                return false;
+        }
+        return true;
+    }
+
+    QTemporaryDir folder_;
+    const QString program_ = folder_.filePath(
+        QStringLiteral("a folder/") + QFileInfo(QStringLiteral(ONDARA_START_PROBE)).fileName());
+};
+
 }  // namespace
 
 TEST(MachineHost, ReadsTheClockInTheLocalTimeZone) {
@@ -130,6 +170,90 @@ TEST(MachineHost, FindsTheProgramWhereItsExecutableIsAndNotInTheWorkingDirectory
     EXPECT_EQ(directory, QFileInfo(QCoreApplication::applicationFilePath()).absolutePath());
     EXPECT_FALSE(directory.endsWith(QLatin1Char('/')));
 }
+
+#ifdef Q_OS_WIN
+
+namespace {
+
+constexpr Long kCurrentUser = static_cast<Long>(0x80000001);
+
+// A key of this user's for as long as it lives.
+class RegistryOfWindows : public testing::Test {
+  protected:
+    ~RegistryOfWindows() override { RegDeleteKeyA(HKEY_CURRENT_USER, "Ondara test"); }
+
+    void write(DWORD type, const QByteArray& data) {
+        ASSERT_EQ(RegSetKeyValueA(HKEY_CURRENT_USER, "Ondara test", "Value", type, data.constData(),
+                                  static_cast<DWORD>(data.size())),
+                  ERROR_SUCCESS);
+    }
+
+    static std::optional<RegistryValue> read(const QString& name = QStringLiteral("value")) {
+        return BareMachineHost().registryValue(kCurrentUser, QStringLiteral("ONDARA test"), name);
+    }
+};
+
+}  // namespace
+
+TEST_F(RegistryOfWindows, GivesATextWithItsZero) {
+    write(REG_SZ, QByteArray("C:\\tool.exe", 12));
+    ASSERT_TRUE(read());
+    EXPECT_EQ(read()->type, 1U);
+    EXPECT_EQ(read()->data, QByteArray("C:\\tool.exe", 12));
+}
+
+TEST_F(RegistryOfWindows, GivesANumberFromItsLowByte) {
+    write(REG_DWORD, QByteArray("\x0a\0\0\x80", 4));
+    ASSERT_TRUE(read());
+    EXPECT_EQ(read()->type, 4U);
+    EXPECT_EQ(read()->data, QByteArray("\x0a\0\0\x80", 4));
+}
+
+TEST_F(RegistryOfWindows, GivesValuesOf1024CharactersAndNoneBeyond) {
+    write(REG_BINARY, QByteArray(1024, 'x'));
+    ASSERT_TRUE(read());
+    EXPECT_EQ(read()->data.size(), 1024);
+    write(REG_BINARY, QByteArray(1025, 'x'));
+    EXPECT_FALSE(read());
+}
+
+TEST_F(RegistryOfWindows, GivesNothingForAKeyOrAValueThatIsNotThere) {
+    EXPECT_FALSE(read());
+    write(REG_SZ, "text");
+    EXPECT_FALSE(read(QStringLiteral("another")));
+}
+
+#else
+
+TEST(MachineHost, HasNoRegistry) {
+    constexpr auto kLocalMachine = static_cast<Long>(0x80000002);
+    EXPECT_FALSE(BareMachineHost().registryValue(kLocalMachine, QStringLiteral("SOFTWARE"), {}));
+}
+
+#endif
+
+TEST_F(AProgram, IsStartedByItsPathWithBlanksInIt) {
+    EXPECT_EQ(errorOfStart(program_), 0);
+    EXPECT_TRUE(leavesItsFile());
+}
+
+TEST_F(AProgram, ThatIsNotThereIsAnError) {
+    EXPECT_EQ(errorOfStart(folder_.filePath(QStringLiteral("missing.exe"))), 53);
+    EXPECT_EQ(errorOfStart({}), 53);
+}
+
+TEST_F(AProgram, ThatIsAFolderIsAnError) {
+    EXPECT_NE(errorOfStart(folder_.path()), 0);
+}
+
+#ifdef Q_OS_LINUX
+
+TEST_F(AProgram, ThatNobodyMayStartIsAnError) {
+    ASSERT_TRUE(QFile::setPermissions(program_, QFile::ReadOwner));
+    EXPECT_EQ(errorOfStart(program_), 70);
+}
+
+#endif
 
 TEST(MachineHostDeathTest, EndsTheProcessAtOnceWithTheGivenCode) {
     EXPECT_EXIT(BareMachineHost().endProcess(1), testing::ExitedWithCode(1), "");

@@ -1,4 +1,5 @@
 // What holds for every form, for those of the shell.
+#include "shell/frmAbout.h"
 #include "shell/frmManageFaves.h"
 #include "shell/frmSplash.h"
 #include "shell/frmWait.h"
@@ -7,8 +8,9 @@
 namespace {
 
 using Forms =
-    testing::Types<Drawn<frmMain, OnEscape::Stays>, Drawn<frmManageFaves, OnEscape::Closes>,
-                   Drawn<frmSplash, OnEscape::Closes>, Drawn<frmWait, OnEscape::Stays>>;
+    testing::Types<Drawn<frmMain, OnEscape::Stays>, Drawn<frmAbout, OnEscape::Closes>,
+                   Drawn<frmManageFaves, OnEscape::Closes>, Drawn<frmSplash, OnEscape::Closes>,
+                   Drawn<frmWait, OnEscape::Stays>>;
 INSTANTIATE_TYPED_TEST_SUITE_P(Shell, EveryForm, Forms);
 
 using MainWindowInQuickMode = MainWindowTest;

@@ -1,4 +1,4 @@
-// The fixed day, and the record of boxes.
+// The fixed day, and the record of boxes, programs and help.
 #include "support/recording_host.h"
 
 #include <gtest/gtest.h>
@@ -17,10 +17,27 @@ RecordingHost::RecordingHost() : now_(modCycles::DateSerial(2000, 3, 14) + kFive
 RecordingHost::~RecordingHost() {
     for (const Expected& expected : expected_)
         ADD_FAILURE() << "This box was expected and never came: " << qPrintable(expected.text);
+    for (const ExpectedStart& expected : expectedStarts_)
+        ADD_FAILURE() << "This program was to be started: " << qPrintable(expected.path);
+    for (const QString& fileName : expectedHelp_)
+        ADD_FAILURE() << "This help was to be shown: " << qPrintable(fileName);
 }
 
 void RecordingHost::expectMessage(const QString& text, Answer answer) {
     expected_.push_back({text, answer});
+}
+
+void RecordingHost::expectStart(const QString& path, std::optional<ErrorNumber> error) {
+    expectedStarts_.push_back({path, error});
+}
+
+void RecordingHost::expectHelp(const QString& fileName) {
+    expectedHelp_.push_back(fileName);
+}
+
+void RecordingHost::setRegistryValue(Long root, const QString& key, const QString& name,
+                                     const RegistryValue& value) {
+    registry_[{root, key, name}] = value;
 }
 
 QLocale RecordingHost::locale() const {
@@ -33,6 +50,31 @@ QString RecordingHost::shortDate(Date date) const {
 
 QString RecordingHost::shortTime(Date date) const {
     return toQTime(date).toString(QStringLiteral("HH:mm"));
+}
+
+std::optional<RegistryValue> RecordingHost::registryValue(Long root, const QString& key,
+                                                          const QString& name) const {
+    const auto found = registry_.find({root, key, name});
+    return found == registry_.end() ? std::nullopt : std::optional(found->second);
+}
+
+void RecordingHost::startProgram(const QString& path) {
+    if (expectedStarts_.empty() || expectedStarts_.front().path != path) {
+        ADD_FAILURE() << "An unexpected start of a program: " << qPrintable(path);
+        return;
+    }
+    const std::optional<ErrorNumber> error = expectedStarts_.front().error;
+    expectedStarts_.erase(expectedStarts_.begin());
+    if (error)
+        throw RuntimeError(*error);
+}
+
+void RecordingHost::showHelp(QObject*, const QString& fileName) {
+    if (expectedHelp_.empty() || expectedHelp_.front() != fileName) {
+        ADD_FAILURE() << "Unexpected help: " << qPrintable(fileName);
+        return;
+    }
+    expectedHelp_.erase(expectedHelp_.begin());
 }
 
 Answer RecordingHost::showMessage(const Message& message) {

@@ -1,17 +1,22 @@
-// The host that tests install: a fixed day, no desktop, and every box recorded and answered.
+// The host that tests install: a fixed day, no desktop, and every box and every start of a program
+// recorded and answered.
 #pragma once
 
 #include <QString>
 #include <functional>
+#include <map>
 #include <optional>
+#include <tuple>
 #include <vector>
 
 #include "cycles/calendar.h"
+#include "runtime/errors.h"
 #include "runtime/host.h"
 #include "support/printing.h"
 
-// It is 14 March 2000, 14:05, in English, with dates as dd/MM/yyyy. A box that the test did not
-// expect fails the test, and so does an expected one that never comes. An end of the process is
+// It is 14 March 2000, 14:05, in English, with dates as dd/MM/yyyy. The registry is empty. A box, a
+// program or a help file that the test did not expect fails the test, and so does an expected one
+// that never comes. An end of the process is
 // recorded, and what the program would do after it goes unnoticed, as there is no program then.
 class RecordingHost final : public Host {
   public:
@@ -23,6 +28,12 @@ class RecordingHost final : public Host {
 
     // The boxes shown so far.
     const std::vector<Message>& messages() const { return messages_; }
+
+    // The next program started must have this path; starting it fails if an error is given.
+    void expectStart(const QString& path, std::optional<ErrorNumber> error = std::nullopt);
+
+    // The next help file shown must have this name.
+    void expectHelp(const QString& fileName);
 
     // The exit code, once the process has been ended.
     std::optional<int> exitCode() const { return exitCode_; }
@@ -37,6 +48,8 @@ class RecordingHost final : public Host {
 
     void setNow(Date now) { now_ = now; }
     void setProgramDirectory(const QString& directory) { programDirectory_ = directory; }
+    void setRegistryValue(Long root, const QString& key, const QString& name,
+                          const RegistryValue& value);
     void setAnotherInstanceRuns(bool runs) { anotherInstanceRuns_ = runs; }
 
     Date now() const override { return now_; }
@@ -45,6 +58,10 @@ class RecordingHost final : public Host {
     QString shortTime(Date date) const override;
     QString programDirectory() const override { return programDirectory_; }
     bool anotherInstanceRuns() const override { return anotherInstanceRuns_; }
+    std::optional<RegistryValue> registryValue(Long root, const QString& key,
+                                               const QString& name) const override;
+    void startProgram(const QString& path) override;
+    void showHelp(QObject* owner, const QString& fileName) override;
     Answer showMessage(const Message& message) override;
     void yield() override { ++yields_; }
     void paintWindows() override;
@@ -56,12 +73,20 @@ class RecordingHost final : public Host {
         Answer answer;
     };
 
+    struct ExpectedStart {
+        QString path;
+        std::optional<ErrorNumber> error;
+    };
+
     HostInForce inForce_{*this};
     Date now_;
     QString programDirectory_;
     bool anotherInstanceRuns_ = false;
     std::vector<Expected> expected_;  // those still to come, in order
     std::vector<Message> messages_;
+    std::map<std::tuple<Long, QString, QString>, RegistryValue> registry_;
+    std::vector<ExpectedStart> expectedStarts_;  // those still to come, in order
+    std::vector<QString> expectedHelp_;          // those still to come, in order
     std::optional<int> exitCode_;
     int yields_ = 0;
     std::function<void()> onPaintWindows_;

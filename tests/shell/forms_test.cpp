@@ -7,10 +7,9 @@
 
 namespace {
 
-using Forms =
-    testing::Types<Drawn<frmMain, OnEscape::Stays>, Drawn<frmAbout, OnEscape::Closes>,
-                   Drawn<frmManageFaves, OnEscape::Closes>, Drawn<frmSplash, OnEscape::Closes>,
-                   Drawn<frmWait, OnEscape::Stays>>;
+using Forms = testing::Types<Drawn<frmMain, OnEscape::Stays>, Drawn<frmAbout, OnEscape::Closes>,
+                             Drawn<frmManageFaves, OnEscape::Closes>,
+                             Drawn<frmSplash, OnEscape::Closes>, Drawn<frmWait, OnEscape::Stays>>;
 INSTANTIATE_TYPED_TEST_SUITE_P(Shell, EveryForm, Forms);
 
 using MainWindowInQuickMode = MainWindowTest;

@@ -1,7 +1,6 @@
 // The event routines of the form that deletes favourites.
 #include "shell/frmManageFaves.h"
 
-#include "runtime/app.h"
 #include "runtime/event.h"
 #include "shell/favourites_menu.h"
 #include "store/favourites.h"
@@ -10,16 +9,14 @@
 frmManageFaves::frmManageFaves(QWidget* owner)
     : Form(owner), ui_(std::make_unique<Ui::frmManageFaves>()) {
     ui_->setupUi(this);
-    onEvent(ui_->cmdClose, &QPushButton::clicked, this, &frmManageFaves::cmdClose_Click);
-    onEvent(ui_->cmdDelete, &QPushButton::clicked, this, &frmManageFaves::cmdDelete_Click);
+    onEvent(ui_->cmdClose, &PictureButton::Click, this, &frmManageFaves::cmdClose_Click);
+    onEvent(ui_->cmdDelete, &PictureButton::Click, this, &frmManageFaves::cmdDelete_Click);
 }
 
 frmManageFaves::~frmManageFaves() = default;
 
 void frmManageFaves::Form_Load() {
-    ui_->flManageFaves->setPath(App::Path());
-    ui_->flManageFaves->setPattern(favouritePattern());
-    ui_->flManageFaves->Refresh();
+    modCycles::listFavourites(*ui_->flManageFaves);
 }
 
 void frmManageFaves::Form_KeyDown(QKeyEvent& key) {
@@ -31,7 +28,7 @@ void frmManageFaves::cmdDelete_Click() {
     if (ui_->flManageFaves->ListIndex() == -1)
         return;
     LockFaves(true);
-    deleteFavourite(ui_->flManageFaves->FileName());
+    deleteFavouriteFile(ui_->flManageFaves->FileName());
     ui_->flManageFaves->Refresh();
     LockFaves(false);
     ui_->flManageFaves->setFocus();

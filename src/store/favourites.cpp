@@ -26,6 +26,6 @@ PersonRecord readFavourite(const QString& name) {
     return readFirstRecord(readSmallFile(App::Path(), name + kExtension));
 }
 
-void deleteFavourite(const QString& fileName) {
+void deleteFavouriteFile(const QString& fileName) {
     deleteSmallFile(App::Path(), fileName);
 }

@@ -20,4 +20,4 @@ void writeFavourite(const PersonRecord& person);
 PersonRecord readFavourite(const QString& name);
 
 // Deletes a favourite's file. Raises what deleteSmallFile raises.
-void deleteFavourite(const QString& fileName);
+void deleteFavouriteFile(const QString& fileName);

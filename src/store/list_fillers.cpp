@@ -47,7 +47,7 @@ std::vector<ListEntry> readCategories() {
     return categoryEntries(categories);
 }
 
-std::vector<ListEntry> readCategoryEntries() {
+std::vector<ListEntry> readCategoryFilter() {
     std::vector<ListEntry> entries = readCategories();
     entries.insert(entries.begin(), {.text = QStringLiteral("*"), .itemData = 0, .leads = true});
     return entries;

@@ -21,4 +21,4 @@ std::vector<ListEntry> categoryEntries(Recordset& categories);
 std::vector<ListEntry> readCategories();
 
 // The same behind the pseudo-entry "*" with item data 0, which stands for everybody.
-std::vector<ListEntry> readCategoryEntries();
+std::vector<ListEntry> readCategoryFilter();

@@ -33,16 +33,20 @@ bool namesDevice(const QString& fileName) {
            std::any_of(kNumberedDevices.begin(), kNumberedDevices.end(), isNumbered);
 }
 
+// Whether every system can have a file of this name.
 bool isFileName(const QString& name) {
-    return !name.isEmpty() && std::all_of(name.begin(), name.end(), isInFileName) &&
-           !namesDevice(name);
+    return std::all_of(name.begin(), name.end(), isInFileName) && !namesDevice(name);
 }
 
-// Raises 52 for a name that no file can have on one of the systems.
+RuntimeError badName(const QString& fileName) {
+    return fileError(ErrorNumber::BadFileName, QStringLiteral("no file can have this name"),
+                     fileName);
+}
+
+// Raises 52 for what is no name, or leads out of the folder.
 QString pathOf(const QString& folder, const QString& fileName) {
-    if (!isFileName(fileName))
-        throw fileError(ErrorNumber::BadFileName, QStringLiteral("no file can have this name"),
-                        fileName);
+    if (fileName.isEmpty() || QFileInfo(fileName).fileName() != fileName)
+        throw badName(fileName);
     const QDir directory(folder);
     return directory.absoluteFilePath(nameInFolder(directory, fileName));
 }
@@ -83,6 +87,8 @@ QString readSmallFile(const QString& folder, const QString& fileName) {
 }
 
 void writeSmallFile(const QString& folder, const QString& fileName, const QString& text) {
+    if (!isFileName(fileName))
+        throw badName(fileName);
     const QString path = pathOf(folder, fileName);
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))

@@ -5,15 +5,16 @@
 #include <QStringList>
 
 // File names match without regard to case on every system: an existing file whose name differs in
-// case alone is the same file. Every error is worded as file_error.h says: 52 for a name that no
-// file can have, on every system alike ("/" and ":" and their like, and the names of devices); 53
-// for a file that is gone; 75 for a folder, or what may not be read or written; 321 for a file much
-// too large; 61 for a full disk.
+// case alone is the same file. Every error is worded as file_error.h says: 52 for what is no name
+// of a file, 53 for a file that is gone, 75 for a folder or what may not be read or written, 321
+// for a file much too large, 61 for a full disk.
 
 // The text of a file.
 QString readSmallFile(const QString& folder, const QString& fileName);
 
-// Writes the text, under another name first: the file holds all of it or is as it was.
+// Writes the text, under another name first: the file holds all of it or is as it was. A name that
+// one of the systems does not take raises 52 on all of them ("/" and ":" and their like, and the
+// names of devices), so that a folder of files can move from one to another.
 void writeSmallFile(const QString& folder, const QString& fileName, const QString& text);
 
 void deleteSmallFile(const QString& folder, const QString& fileName);

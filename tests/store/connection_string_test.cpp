@@ -8,13 +8,9 @@
 #include <QTemporaryDir>
 
 #include "support/errors.h"
+#include "support/files.h"
 
 namespace {
-
-void makeFile(const QString& path) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(path);
-}
 
 // Folders whose names hold these characters exist on some systems only.
 bool makeFolder(const QString& path) {

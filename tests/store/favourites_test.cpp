@@ -47,7 +47,7 @@ TEST_F(Favourites, AreCalledByTheirFileLessFourCharacters) {
 
 TEST_F(Favourites, GoWithTheirFile) {
     writeFavourite({42, kAnna});
-    deleteFavourite(QStringLiteral("Smith, Anna.ofp"));
+    deleteFavouriteFile(QStringLiteral("Smith, Anna.ofp"));
     EXPECT_EQ(errorOf([&] { readFavourite(kAnna); }), 53);
 }
 

@@ -6,16 +6,14 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "support/files.h"
 #include "support/printing.h"
 
 namespace {
 
 class NameInFolder : public testing::Test {
   protected:
-    void makeFile(const QString& name) {
-        QFile file(folder_.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    }
+    void make(const QString& name) { makeFile(folder_.filePath(name)); }
 
     QString found(const QString& name) { return nameInFolder(QDir(folder_.path()), name); }
 
@@ -23,19 +21,19 @@ class NameInFolder : public testing::Test {
 };
 
 TEST_F(NameInFolder, FindsAFileThatDiffersInCaseAlone) {
-    makeFile(QStringLiteral("Émile Zola.OFP"));
+    make(QStringLiteral("Émile Zola.OFP"));
     EXPECT_EQ(found(QStringLiteral("émile zola.ofp")).toUpper(), QStringLiteral("ÉMILE ZOLA.OFP"));
     EXPECT_TRUE(QFile::exists(folder_.filePath(found(QStringLiteral("émile zola.ofp")))));
 }
 
 TEST_F(NameInFolder, PrefersTheFileOfJustThatName) {
-    makeFile(QStringLiteral("ADA.OFP"));
-    makeFile(QStringLiteral("ada.ofp"));
+    make(QStringLiteral("ADA.OFP"));
+    make(QStringLiteral("ada.ofp"));
     EXPECT_EQ(found(QStringLiteral("ada.ofp")), QStringLiteral("ada.ofp"));
 }
 
 TEST_F(NameInFolder, LeavesTheNameOfAFileThatIsNotThere) {
-    makeFile(QStringLiteral("ada.ofp"));
+    make(QStringLiteral("ada.ofp"));
     EXPECT_EQ(found(QStringLiteral("Ben.ofp")), QStringLiteral("Ben.ofp"));
 }
 

@@ -115,7 +115,7 @@ TEST_F(ListFillersTest, PutThePseudoEntryBeforeTheCategoriesInTheOrderOfTheStore
     for (const char16_t* name : {u"Work", u"!first", u"Family"})
         addCategory(directory_.people(), QString::fromUtf16(name));
     PlainList categories;
-    categories.fill(readCategoryEntries());
+    categories.fill(readCategoryFilter());
     EXPECT_EQ(categories.lines(),
               (QStringList{QStringLiteral("*=0"), QStringLiteral("Work=1"),
                            QStringLiteral("!first=2"), QStringLiteral("Family=3")}));
@@ -131,7 +131,7 @@ TEST_F(ListFillersTest, ReadTheCategoriesAloneInTheOrderOfTheStore) {
 }
 
 TEST_F(ListFillersTest, RaiseNoCurrentRecordWithoutCategories) {
-    EXPECT_EQ(errorOf([] { readCategoryEntries(); }), 3021);
+    EXPECT_EQ(errorOf([] { readCategoryFilter(); }), 3021);
     EXPECT_EQ(errorOf([] { readCategories(); }), 3021);
 }
 

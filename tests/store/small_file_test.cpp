@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 
 #include "support/errors.h"
+#include "support/files.h"
 #include "support/printing.h"
 #include "support/read_only_folder.h"
 
@@ -20,10 +21,8 @@ class SmallFile : public testing::Test {
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
     }
 
-    void makeFile(const QString& name, const QByteArray& bytes = {}) {
-        QFile file(folder_.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
+    void make(const QString& name, const QByteArray& bytes = {}) {
+        makeFile(folder_.filePath(name), bytes);
     }
 
     void makeFolder(const QString& name) { ASSERT_TRUE(QDir(path()).mkdir(name)); }
@@ -64,16 +63,36 @@ TEST_F(SmallFile, IsTheSameWhenItsNameDiffersInCaseAlone) {
     EXPECT_EQ(entries(), QStringList());
 }
 
-TEST_F(SmallFile, BearsNoNameThatASystemRefuses) {
+TEST_F(SmallFile, IsNotWrittenUnderANameThatASystemRefuses) {
     for (const char* name :
          {"", "AC/DC.ofp", "a\\b.ofp", "a:b.ofp", "a*.ofp", "a?.ofp", "a\"b.ofp", "a<b.ofp",
-          "a>b.ofp", "a|b.ofp", "a\nb.ofp", "../up.ofp", "Con.ofp", "nul.ofp", "LPT1.a.ofp"}) {
-        const QString fileName = QString::fromLatin1(name);
-        EXPECT_EQ(errorOf([&] { write(fileName, QStringLiteral("text")); }), 52) << name;
-        EXPECT_EQ(errorOf([&] { read(fileName); }), 52) << name;
-        EXPECT_EQ(errorOf([&] { deleteSmallFile(path(), fileName); }), 52) << name;
-    }
+          "a>b.ofp", "a|b.ofp", "a\nb.ofp", "../up.ofp", "Con.ofp", "nul.ofp", "LPT1.a.ofp"})
+        EXPECT_EQ(errorOf([&] { write(QString::fromLatin1(name), QStringLiteral("text")); }), 52)
+            << name;
     EXPECT_EQ(entries(), QStringList());
+}
+
+TEST_F(SmallFile, IsReadAndDeletedUnderAnyNameThatItHas) {
+    const QString name = QStringLiteral("Doe: \"John\".ofp");
+    QFile file(folder_.filePath(name));
+    if (!file.open(QIODevice::WriteOnly))
+        GTEST_SKIP() << "this system has no file of such a name";
+    file.close();
+    EXPECT_EQ(read(name), QString());
+    deleteSmallFile(path(), name);
+    EXPECT_EQ(entries(), QStringList());
+}
+
+TEST_F(SmallFile, IsNeverOneOutsideItsFolder) {
+    makeFolder(QStringLiteral("inside"));
+    make(kAnna, "text");
+    const QString inside = folder_.filePath(QStringLiteral("inside"));
+    for (const QString& name :
+         {QString(), QStringLiteral("../") + kAnna, folder_.filePath(kAnna)}) {
+        EXPECT_EQ(errorOf([&] { readSmallFile(inside, name); }), 52);
+        EXPECT_EQ(errorOf([&] { deleteSmallFile(inside, name); }), 52);
+    }
+    EXPECT_EQ(read(kAnna), QStringLiteral("text"));
 }
 
 TEST_F(SmallFile, MayBearANameThatOnlyBeginsLikeADevice) {
@@ -99,7 +118,7 @@ TEST_F(SmallFile, ThatIsAFolderRaises75AndStays) {
 }
 
 TEST_F(SmallFile, ThatMayNotBeReadRaises75) {
-    makeFile(kAnna, "text");
+    make(kAnna, "text");
     QFile file(folder_.filePath(kAnna));
     file.setPermissions({});
     if (file.open(QIODevice::ReadOnly))
@@ -108,7 +127,7 @@ TEST_F(SmallFile, ThatMayNotBeReadRaises75) {
 }
 
 TEST_F(SmallFile, InAFolderThatMayNotBeWrittenRaises75AndStaysAsItWas) {
-    makeFile(kAnna, "old");
+    make(kAnna, "old");
     const ReadOnlyFolder readOnly(path());
     if (!readOnly.holdsBack())
         GTEST_SKIP() << "this user may write whatever the permissions say";
@@ -118,21 +137,21 @@ TEST_F(SmallFile, InAFolderThatMayNotBeWrittenRaises75AndStaysAsItWas) {
 }
 
 TEST_F(SmallFile, MuchTooLargeRaises321AndIsNotRead) {
-    makeFile(kAnna);
+    make(kAnna);
     ASSERT_TRUE(QFile::resize(folder_.filePath(kAnna), qint64{1} << 40));
     EXPECT_EQ(errorOf([&] { read(kAnna); }), 321);
 }
 
 TEST_F(SmallFile, OfMegabytesIsRead) {
-    makeFile(kAnna, QByteArray(5'000'000, '\x07'));
+    make(kAnna, QByteArray(5'000'000, '\x07'));
     EXPECT_EQ(read(kAnna), QString(5'000'000, u'\x07'));
 }
 
 TEST_F(SmallFile, IsListedByItsExtensionInWhateverCase) {
-    makeFile(QStringLiteral("smith, anna.OFP"));
-    makeFile(QStringLiteral("a.b.ofp"));
-    makeFile(QStringLiteral("team.ofg"));
-    makeFile(QStringLiteral("ofp"));
+    make(QStringLiteral("smith, anna.OFP"));
+    make(QStringLiteral("a.b.ofp"));
+    make(QStringLiteral("team.ofg"));
+    make(QStringLiteral("ofp"));
     makeFolder(QStringLiteral("folder.ofp"));
     QStringList names = smallFiles(path(), QStringLiteral(".ofp"));
     names.sort();

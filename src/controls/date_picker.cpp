@@ -1,6 +1,8 @@
 // The date picker on Qt's date edit.
 #include "controls/date_picker.h"
 
+#include <QKeyEvent>
+
 #include "controls/quiet_calendar.h"
 #include "runtime/host.h"
 #include "runtime/qt_dates.h"
@@ -13,6 +15,13 @@ DatePicker::DatePicker(QWidget* parent) : QDateEdit(parent), DateControl(host().
     setDate(toQDate(Value()));
     setCalendarPopup(true);
     connect(this, &QDateEdit::dateChanged, this, [this](QDate date) { shows(date); });
+}
+
+// To select everything is what the focus does anyway; so the field claims no key for it.
+bool DatePicker::event(QEvent* event) {
+    const bool wantsKey = event->type() == QEvent::ShortcutOverride &&
+                          static_cast<QKeyEvent*>(event)->matches(QKeySequence::SelectAll);
+    return wantsKey ? QWidget::event(event) : QDateEdit::event(event);
 }
 
 // A field that stays hidden needs no calendar, which is the larger part of it.

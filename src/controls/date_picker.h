@@ -7,7 +7,8 @@
 
 class QuietCalendar;
 
-// Change is fired when the user has changed the date.
+// Change is fired when the user has changed the date. A window's shortcut for Ctrl+A stays the
+// window's while the field has the focus.
 class DatePicker final : public QDateEdit, public DateControl {
     Q_OBJECT
 
@@ -23,6 +24,7 @@ class DatePicker final : public QDateEdit, public DateControl {
     void Change();
 
   protected:
+    bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void showValue(QDate value) override { setDate(value); }
     void showMinDate(QDate minDate) override { setMinimumDate(minDate); }

@@ -18,6 +18,14 @@
 #include "shell/frmManageFaves.h"
 #include "shell/handover.h"
 
+namespace {
+
+QString needOfAPerson() {
+    return QStringLiteral("Please select a person from the list.");
+}
+
+}  // namespace
+
 Commands::Commands(frmMain& window) : window_(window) {
     const auto onCommand = [&](const char* entry, auto routine) {
         onEvent(&window.command(entry), &QAction::triggered, this, routine);
@@ -31,21 +39,17 @@ Commands::Commands(frmMain& window) : window_(window) {
     onCommand("mnuQuickMatch", &Commands::mnuQuickMatch_Click);
     onCommand("mnuReport", &Commands::mnuReport_Click);
     onCommand("mnuViewDetails", &Commands::cmdDetails_Click);
-    onEvent(&window.cmdDetails(), &PictureButton::Click, this, &Commands::cmdDetails_Click);
+    onEvent(mainControls().cmdDetails, &PictureButton::Click, this, &Commands::cmdDetails_Click);
     onEvent(mainControls().lstMain, &ListBox::DblClick, this, &Commands::lstMain_DblClick);
     onEvent(mainControls().mnuFaves, &ButtonMenu::ButtonMenuClick, this,
             &Commands::tlbMain_ButtonMenuClick);
 }
 
 bool Commands::isPersonChosen(const QString& request) {
-    if (mainControls().lstMain->ListIndex() != -1)
-        return true;
-    host().showMessage({.text = request, .owner = &window_});
-    return false;
-}
-
-bool Commands::personIsNeeded() {
-    return isPersonChosen(QStringLiteral("Please select a person from the list."));
+    const bool isChosen = mainControls().lstMain->ListIndex() != -1;
+    if (!isChosen)
+        host().showMessage({.text = request, .owner = &window_});
+    return isChosen;
 }
 
 void Commands::cmdDetails_Click() {
@@ -53,19 +57,19 @@ void Commands::cmdDetails_Click() {
 }
 
 void Commands::mnuMatchDabatase_Click() {
-    personIsNeeded();
+    isPersonChosen(needOfAPerson());
 }
 
 void Commands::mnuQuickMatch_Click() {
-    personIsNeeded();
+    isPersonChosen(needOfAPerson());
 }
 
 void Commands::mnuFind_Click() {
-    personIsNeeded();
+    isPersonChosen(needOfAPerson());
 }
 
 void Commands::mnuReport_Click() {
-    personIsNeeded();
+    isPersonChosen(needOfAPerson());
 }
 
 // The card opens for whoever is selected; with nobody selected, reading the number fails.
@@ -95,9 +99,9 @@ void Commands::mnuHelpContents_Click() {
 void Commands::tlbMain_ButtonMenuClick(int index) {
     trapped(&window_, [&] {
         const QString key = mainControls().mnuFaves->Key(index);
-        if (key == QStringLiteral("AddFaves"))
+        if (key == modCycles::kAddFavesKey)
             modCycles::addFavourite();
-        else if (key == QStringLiteral("ManageFaves"))
+        else if (key == modCycles::kManageFavesKey)
             frmManageFaves(&window_).ShowModal();
         else if (key.isEmpty())
             chooseFavourite(mainControls().mnuFaves->Text(index));

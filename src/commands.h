@@ -1,4 +1,4 @@
-// The commands of the main window that open a form or ask for help.
+// The commands of the main window that open a form, ask for help or go by the favourites.
 #pragma once
 
 #include <QObject>
@@ -28,8 +28,8 @@ class Commands final : public QObject {
     void mnuReport_Click();
     void tlbMain_ButtonMenuClick(int index);
 
+    // Whether there is a person; without one the user gets the request.
     bool isPersonChosen(const QString& request);
-    bool personIsNeeded();
     void chooseFavourite(const QString& name);
 
     frmMain& window_;

@@ -23,6 +23,7 @@
 #include "shell/handover.h"
 #include "shell/main_controls.h"
 #include "store/favourites.h"
+#include "support/files.h"
 #include "support/main_window.h"
 #include "support/next_form.h"
 
@@ -59,13 +60,7 @@ class CommandsTest : public MainWindowTest {
         return directory_.path(favourite + QStringLiteral(".ofp"));
     }
 
-    void makeFile(const QString& favourite, const QByteArray& bytes) {
-        QFile file(fileOf(favourite));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-
-    // A command that tests for a person has the message, and one that does not has none.
+    // The commands that need a person.
     static constexpr const char* kNeedPerson[] = {"mnuMatchDabatase", "mnuQuickMatch", "mnuFind",
                                                   "mnuReport"};
     static constexpr int kFirstFavourite = 4;
@@ -221,10 +216,10 @@ TEST_F(CommandsTest, ReportAFavouriteThatIsNoRecord) {
         {"", "Input past end of file. Please report this error to the author."},
         {"1,\"Smith, An", "Input past end of file. Please report this error to the author."},
         {"\x80,\"\xC3(\"", "Type mismatch. Please report this error to the author."}};
-    makeFile(kAnna, {});
+    makeFile(fileOf(kAnna));
     startWith(QStringLiteral("Zed"));
     for (const auto& [bytes, report] : files) {
-        makeFile(kAnna, bytes);
+        makeFile(fileOf(kAnna), bytes);
         expectMessage(report);
         clickFavesEntry(kFirstFavourite);
     }
@@ -235,142 +230,6 @@ TEST_F(CommandsTest, DoNothingForTheSeparator) {
     startWith(kAnna);
     clickFavesEntry(3);
     EXPECT_EQ(favesMenu().Count(), 3);
-}
-
-// The menu tree and the toolbar.
-
-struct Entry {
-    const char* name;
-    const char* caption;
-    const char* shortcut;
-};
-
-TEST_F(CommandsTest, StandInTheMenusUnderTheirNamesWithTheirKeys) {
-    start();
-    constexpr Entry kEntries[] = {{"mnuFileExplore", "E&xplore database", "F5"},
-                                  {"mnuAddNew", "Add &new person wizard", "F2"},
-                                  {"mnuFileAdd", "Manage &database", "Ctrl+A"},
-                                  {"mnuFileCat", "&Manage Categories", "Ctrl+M"},
-                                  {"mnuFileExit", "&Exit", "Ctrl+Q"},
-                                  {"mnuViewHide", "&Show Panel", "Ctrl+S"},
-                                  {"mnuViewRefresh", "&Refresh data", "Ctrl+R"},
-                                  {"mnuReport", "Reports", ""},
-                                  {"mnuViewDetails", "&Details", "Ctrl+D"},
-                                  {"mnuMatchDabatase", "Match from the database", "F9"},
-                                  {"mnuGroup", "Group biorhythms", "F8"},
-                                  {"mnuQuickMatch", "&Quick Match", "F12"},
-                                  {"mnuQuickBio", "Quick &Bio", "Ctrl+F1"},
-                                  {"mnuFind", "&Find events", "F4"},
-                                  {"mnuBToday", "&Birthday Calendar", "Ctrl+T"},
-                                  {"mnuToolsImport", "&Import Ondara 1.0 database", ""},
-                                  {"mnuHelpContents", "&Contents", "F1"},
-                                  {"mnuHelpAbout", "&About Ondara 2.0", ""}};
-    for (const Entry& entry : kEntries) {
-        const QAction& action = window().command(entry.name);
-        EXPECT_EQ(action.text().toStdString(), entry.caption);
-        EXPECT_EQ(action.shortcut().toString().toStdString(), entry.shortcut) << entry.name;
-        EXPECT_TRUE(action.isEnabled()) << entry.name;
-    }
-}
-
-// The names of a menu's entries, "-" for a separator; those of a submenu follow its own.
-QStringList namesIn(const QMenu& menu) {
-    QStringList names;
-    for (const QAction* entry : menu.actions()) {
-        if (entry->isSeparator())
-            names += QStringLiteral("-");
-        else if (entry->menu())
-            names += entry->menu()->objectName() + u'(' + namesIn(*entry->menu()).join(u' ') + u')';
-        else
-            names += entry->objectName();
-    }
-    return names;
-}
-
-TEST_F(CommandsTest, StandInTheMenusInTheirOrderBetweenSeparators) {
-    start();
-    const auto order = [this](const char* menu) {
-        return namesIn(control<QMenu>(menu)).join(u' ').toStdString();
-    };
-    EXPECT_EQ(order("mnuFile"), "mnuFileExplore - mnuAddNew mnuFileAdd mnuFileCat - mnuFileExit");
-    EXPECT_EQ(order("mnuView"), "mnuViewHide mnuViewRefresh - mnuReport - mnuViewDetails");
-    EXPECT_EQ(order("mnuTools"),
-              "mnuCompatibility(mnuMatchDabatase mnuGroup mnuQuickMatch) - mnuQuickBio mnuFind "
-              "mnuBToday - mnuToolsImport");
-    EXPECT_EQ(order("mnuHelp"), "mnuHelpContents - mnuHelpAbout");
-    EXPECT_EQ(control<QMenu>("mnuFile").title(), QStringLiteral("&File"));
-    EXPECT_EQ(control<QMenu>("mnuView").title(), QStringLiteral("&View"));
-    EXPECT_EQ(control<QMenu>("mnuTools").title(), QStringLiteral("&Tools"));
-    EXPECT_EQ(control<QMenu>("mnuCompatibility").title(), QStringLiteral("&Compatibility"));
-    EXPECT_EQ(control<QMenu>("mnuHelp").title(), QStringLiteral("&Help"));
-}
-
-TEST_F(CommandsTest, StandOnTheToolbarInTheirOrderWithTips) {
-    start();
-    const std::pair<const char*, const char*> kButtons[] = {
-        {"Add", "Explore database (F5)"}, {"Hide", "Show/Hide (Ctrl+S)"},
-        {"Compat", "Compatibility (F9)"}, {"Group", "Group biorhythms (F8)"},
-        {"Faves", "Favourites"},          {"Help", "Help"},
-        {"About", "About Ondara 2.0"}};
-    const QList<QAction*> buttons = control<QToolBar>("tlbMain").actions();
-    ASSERT_EQ(buttons.size(), 7);
-    for (int i = 0; i < buttons.size(); ++i) {
-        EXPECT_EQ(buttons[i]->objectName().toStdString(),
-                  std::string("tlbMain_") + kButtons[i].first);
-        EXPECT_EQ(buttons[i]->toolTip().toStdString(), kButtons[i].second);
-        EXPECT_FALSE(buttons[i]->icon().isNull());
-    }
-}
-
-// The entries that are triggered while the buttons of the toolbar are pressed, in their order.
-TEST_F(CommandsTest, AreGivenByTheToolbarAsByTheMenu) {
-    start();
-    std::vector<std::string> given;
-    for (const char* entry : {"mnuFileExplore", "mnuViewHide", "mnuMatchDabatase", "mnuGroup",
-                              "mnuHelpContents", "mnuHelpAbout"}) {
-        QAction& action = window().command(entry);
-        action.disconnect();
-        QObject::connect(&action, &QAction::triggered, &action,
-                         [&given, entry] { given.emplace_back(entry); });
-    }
-    for (QAction* button : control<QToolBar>("tlbMain").actions())
-        button->trigger();
-    EXPECT_EQ(given, (std::vector<std::string>{"mnuFileExplore", "mnuViewHide", "mnuMatchDabatase",
-                                               "mnuGroup", "mnuHelpContents", "mnuHelpAbout"}));
-}
-
-TEST_F(CommandsTest, DropTheFavouritesDownFromTheirButton) {
-    start();
-    auto& bar = control<QToolBar>("tlbMain");
-    auto* faves = qobject_cast<QToolButton*>(bar.widgetForAction(bar.actions()[4]));
-    ASSERT_TRUE(faves);
-    EXPECT_EQ(faves->menu(), &favesMenu());
-    EXPECT_EQ(faves->popupMode(), QToolButton::InstantPopup);
-    EXPECT_EQ(faves->text(), QStringLiteral("Favourites"));
-}
-
-TEST_F(CommandsTest, KeepTheKeysOfTheEnabledOnesInQuickMode) {
-    start();
-    window().Show();
-    QApplication::setActiveWindow(&window());
-    trigger("mnuQuickBio");
-    std::vector<std::string> given;
-    for (const char* entry : {"mnuFind", "mnuFileExplore", "mnuAddNew", "mnuMatchDabatase",
-                              "mnuGroup", "mnuQuickMatch", "mnuViewDetails"}) {
-        QAction& action = window().command(entry);
-        action.disconnect();
-        QObject::connect(&action, &QAction::triggered, &action,
-                         [&given, entry] { given.emplace_back(entry); });
-    }
-    for (const Qt::Key key :
-         {Qt::Key_F4, Qt::Key_F5, Qt::Key_F2, Qt::Key_F9, Qt::Key_F8, Qt::Key_F12})
-        pressKey(window(), key);
-    EXPECT_EQ(given, (std::vector<std::string>{"mnuFind", "mnuFileExplore", "mnuAddNew"}));
-    given.clear();
-    trigger("mnuQuickBio");
-    for (const Qt::Key key : {Qt::Key_F9, Qt::Key_F8, Qt::Key_F12})
-        pressKey(window(), key);
-    EXPECT_EQ(given, (std::vector<std::string>{"mnuMatchDabatase", "mnuGroup", "mnuQuickMatch"}));
 }
 
 }  // namespace

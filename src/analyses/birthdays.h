@@ -17,7 +17,7 @@ struct Birthday {
     friend bool operator==(const Birthday&, const Birthday&) = default;
 };
 
-// Those of the people whose day and month of birth are those of `date`, in the order of the set: of
-// people born on 29 February in leap years alone. Walks the whole set, and raises 3021 if there is
-// nobody in it.
+// Those of the people whose day and month of birth are those of `date`, in the order of the set.
+// Whoever was born on 29 February is among them in leap years alone. Walks the whole set, and
+// raises 3021 if there is nobody in it.
 std::vector<Birthday> birthdaysOn(Date date, Recordset& people);

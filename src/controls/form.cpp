@@ -21,8 +21,8 @@ void setUpButtons(const QWidget& form) {
     for (QPushButton* button : form.findChildren<QPushButton*>()) {
         button->setAutoDefault(true);
         if (button->focusPolicy() != Qt::NoFocus)
-            QObject::connect(button, &QPushButton::pressed, button,
-                             qOverload<>(&QWidget::setFocus));
+            QObject::connect(button, &QPushButton::pressed, button, qOverload<>(&QWidget::setFocus),
+                             Qt::UniqueConnection);
     }
 }
 

@@ -16,11 +16,20 @@ QString decoded(const QString& text) {
     return reader.hasError() ? text : plain;
 }
 
-// The value of an attribute in double quotes.
-QString attribute(const QString& tag, const QString& name) {
-    const QRegularExpression pattern(QStringLiteral("\\b%1=\"([^\"]*)\"").arg(name),
-                                     QRegularExpression::CaseInsensitiveOption);
-    return decoded(pattern.match(tag).captured(1));
+// The pattern of an attribute, its value in double quotes.
+QRegularExpression attributePattern(const char* name) {
+    return QRegularExpression(QStringLiteral("\\b%1=\"([^\"]*)\"").arg(QLatin1String(name)),
+                              QRegularExpression::CaseInsensitiveOption);
+}
+
+QString nameIn(const QString& attributes) {
+    static const QRegularExpression name = attributePattern("name");
+    return decoded(name.match(attributes).captured(1));
+}
+
+QString valueIn(const QString& attributes) {
+    static const QRegularExpression value = attributePattern("value");
+    return decoded(value.match(attributes).captured(1));
 }
 
 bool isTag(const QString& tag, const char* name) {
@@ -37,8 +46,7 @@ class Reader {
         else if (isTag(tag, "object"))
             topic_ = HelpTopic{{}, {}, level()};
         else if (isTag(tag, "param"))
-            takeParameter(attribute(attributes, QStringLiteral("name")),
-                          attribute(attributes, QStringLiteral("value")));
+            takeParameter(nameIn(attributes), valueIn(attributes));
         else if (isTag(tag, "/object"))
             finishTopic();
     }

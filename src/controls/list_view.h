@@ -3,7 +3,7 @@
 
 #include <QTreeView>
 
-#include "controls/report_model.h"
+#include "controls/list_view_model.h"
 
 // Only the rows that are on the screen are measured, so their number costs next to nothing. Sorting
 // is by the text as it is shown, and stays on for the rows that come later; a click on a header
@@ -42,5 +42,5 @@ class ListView final : public QTreeView {
     void setSorting(const ListSorting& sorting);
     void showSorting();
 
-    ReportModel model_;
+    ListViewModel model_;
 };

@@ -1,5 +1,5 @@
 // The rows and their order.
-#include "controls/report_model.h"
+#include "controls/list_view_model.h"
 
 #include <algorithm>
 #include <numeric>
@@ -39,13 +39,13 @@ std::vector<std::size_t> indexesInOrder(const std::vector<ListRow>& rows, const 
 
 }  // namespace
 
-void ReportModel::setColumns(std::vector<ListColumn> columns) {
+void ListViewModel::setColumns(std::vector<ListColumn> columns) {
     beginResetModel();
     columns_ = std::move(columns);
     endResetModel();
 }
 
-void ReportModel::setSorting(const ListSorting& sorting) {
+void ListViewModel::setSorting(const ListSorting& sorting) {
     if (sorting == sorting_)
         return;
     sorting_ = sorting;
@@ -54,7 +54,7 @@ void ReportModel::setSorting(const ListSorting& sorting) {
 }
 
 // What a view remembers of a row, its selection among it, stays with the row.
-void ReportModel::sortRows() {
+void ListViewModel::sortRows() {
     Q_EMIT layoutAboutToBeChanged();
     std::vector<ListRow> rows;
     rows.reserve(rows_.size());
@@ -71,7 +71,7 @@ void ReportModel::sortRows() {
     Q_EMIT layoutChanged();
 }
 
-void ReportModel::fill(std::vector<ListRow> rows) {
+void ListViewModel::fill(std::vector<ListRow> rows) {
     beginResetModel();
     rows_ = std::move(rows);
     if (sorting_.isOn)
@@ -79,7 +79,7 @@ void ReportModel::fill(std::vector<ListRow> rows) {
     endResetModel();
 }
 
-void ReportModel::add(ListRow row) {
+void ListViewModel::add(ListRow row) {
     const auto place = sorting_.isOn
                            ? std::upper_bound(rows_.begin(), rows_.end(), row, RowOrder(sorting_))
                            : rows_.end();
@@ -89,15 +89,15 @@ void ReportModel::add(ListRow row) {
     endInsertRows();
 }
 
-int ReportModel::rowCount(const QModelIndex& parent) const {
+int ListViewModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(rows_.size());
 }
 
-int ReportModel::columnCount(const QModelIndex& parent) const {
+int ListViewModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(columns_.size());
 }
 
-QVariant ReportModel::data(const QModelIndex& index, int role) const {
+QVariant ListViewModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid())
         return {};
     const ListRow& row = rows_[static_cast<std::size_t>(index.row())];
@@ -110,7 +110,7 @@ QVariant ReportModel::data(const QModelIndex& index, int role) const {
     return {};
 }
 
-QVariant ReportModel::headerData(int section, Qt::Orientation orientation, int role) const {
+QVariant ListViewModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal)
         return {};
     const ListColumn& column = columns_[static_cast<std::size_t>(section)];

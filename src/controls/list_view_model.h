@@ -32,7 +32,7 @@ struct ListSorting {
 // Holds columns and rows. While sorting is on, the rows stand in the one order of texts
 // (text_order.h) of a column, numbers too: "10" before "9". Rows of equal texts keep the order that
 // they had. Switching it off leaves the rows as they stand.
-class ReportModel final : public QAbstractTableModel {
+class ListViewModel final : public QAbstractTableModel {
     Q_OBJECT
 
   public:

@@ -41,11 +41,11 @@ void frmAddNew::reserveRoomForGuidance() {
 
 void frmAddNew::connectEvents() {
     onEvent(ui_->chkG, &QCheckBox::toggled, this, &frmAddNew::chkG_Click);
-    onEvent(ui_->cmdAddCat, &QPushButton::clicked, this, &frmAddNew::cmdAddCat_Click);
-    onEvent(ui_->cmdBack, &QPushButton::clicked, this, &frmAddNew::cmdBack_Click);
-    onEvent(ui_->cmdClose, &QPushButton::clicked, this, &frmAddNew::cmdClose_Click);
-    onEvent(ui_->cmdEdit, &QPushButton::clicked, this, &frmAddNew::cmdEdit_Click);
-    onEvent(ui_->cmdNext, &QPushButton::clicked, this, &frmAddNew::cmdNext_Click);
+    onEvent(ui_->cmdAddCat, &PictureButton::Click, this, &frmAddNew::cmdAddCat_Click);
+    onEvent(ui_->cmdBack, &PictureButton::Click, this, &frmAddNew::cmdBack_Click);
+    onEvent(ui_->cmdClose, &PictureButton::Click, this, &frmAddNew::cmdClose_Click);
+    onEvent(ui_->cmdEdit, &PictureButton::Click, this, &frmAddNew::cmdEdit_Click);
+    onEvent(ui_->cmdNext, &PictureButton::Click, this, &frmAddNew::cmdNext_Click);
     onEvent(ui_->txtType, &TextBox::returnPressed, this, &frmAddNew::txtType_KeyDown);
     onEvent(ui_->txtType, &TextBox::LostFocus, this, &frmAddNew::txtType_LostFocus);
 }

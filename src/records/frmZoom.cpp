@@ -41,7 +41,7 @@ void frmZoom::cmdClose_Click() {
 void frmZoom::showCard(const PersonCard& card) {
     ui_->lblName->setText(card.name);
     ui_->lblBirth->setText(card.birth);
-    ui_->txtNotes->setPlainText(card.notes);
+    ui_->txtNotes->setText(card.notes);
     ui_->imgMale->setVisible(card.isMale);
     ui_->imgFemale->setVisible(!card.isMale);
     ui_->imgSign->setPixmap(largePicture(LCase(card.sign)));

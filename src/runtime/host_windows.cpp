@@ -39,6 +39,7 @@ struct CloseKeyOf {
 };
 using Key = std::unique_ptr<HKEY, CloseKeyOf>;
 
+// Full access, as the keys have always been opened: who may not write them is not told either.
 constexpr REGSAM kKeyAccess = 0x2003f;
 constexpr DWORD kLongestValue = 1024;  // bytes
 
@@ -92,7 +93,7 @@ std::optional<RegistryValue> MachineHost::registryValue(Long root, const QString
                                     reinterpret_cast<BYTE*>(data.data()), &length) != ERROR_SUCCESS)
         return std::nullopt;
     data.truncate(static_cast<qsizetype>(length));
-    return RegistryValue{type, data};
+    return RegistryValue{RegistryType{type}, data};
 }
 
 bool showSystemHelp(quintptr window, const QString& fileName) {

@@ -3,7 +3,10 @@
 
 #include <QByteArray>
 
+// Windows has more types than these, each with a number.
+enum class RegistryType : quint32 { Text = 1, Number = 4 };
+
 struct RegistryValue {
-    quint32 type;     // by the numbers of Windows: 1 is a text, 4 a number of 32 bits
+    RegistryType type;
     QByteArray data;  // as it is kept: a text in the system's code page, a number from its low byte
 };

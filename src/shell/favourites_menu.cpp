@@ -18,10 +18,14 @@ constexpr int kEverybody = 0;  // the filter's first entry
 
 }  // namespace
 
-void fillFavourites(ButtonMenu& menu, int fixedEntries, FileListBox& files) {
+void listFavourites(FileListBox& files) {
     files.setPath(App::Path());
     files.setPattern(favouritePattern());
     files.Refresh();
+}
+
+void fillFavourites(ButtonMenu& menu, int fixedEntries, FileListBox& files) {
+    listFavourites(files);
     if (files.ListCount() == 0)
         return;
     while (menu.Count() > fixedEntries)
@@ -31,8 +35,8 @@ void fillFavourites(ButtonMenu& menu, int fixedEntries, FileListBox& files) {
 }
 
 void startFavouritesMenu(ButtonMenu& menu) {
-    menu.Add(QStringLiteral("AddFaves"), QStringLiteral("Add to Favourites"));
-    menu.Add(QStringLiteral("ManageFaves"), QStringLiteral("Manage Favourites"));
+    menu.Add(kAddFavesKey, QStringLiteral("Add to Favourites"));
+    menu.Add(kManageFavesKey, QStringLiteral("Manage Favourites"));
     menu.Add(QStringLiteral("sep"), QStringLiteral("-"));
 }
 

@@ -11,6 +11,13 @@ class ListBox;
 
 namespace modCycles {
 
+// The keys of the entries that add and manage; a favourite has none.
+inline constexpr QLatin1String kAddFavesKey("AddFaves");
+inline constexpr QLatin1String kManageFavesKey("ManageFaves");
+
+// Lists the files of all favourites there are at the moment.
+void listFavourites(FileListBox& files);
+
 // Shows every favourite behind the first `fixedEntries` entries of a menu. Without any favourite
 // the menu stays as it is, the last one that was deleted in it.
 void fillFavourites(ButtonMenu& menu, int fixedEntries, FileListBox& files);

@@ -33,8 +33,8 @@ constexpr QSizeF kChartSize(5055, 3615);  // twips
 frmMain::frmMain() : ui_(std::make_unique<Ui::frmMain>()) {
     ui_->setupUi(this);
     setUpToolbar();
-    controls_ = {ui_->lstMain, ui_->cbCategory, ui_->listCats, ui_->dtpSelDate,  ui_->lblTitle,
-                 ui_->chtMain, ui_->sbMain,     favesMenu_,    ui_->flFavePerson};
+    controls_ = {ui_->lstMain, ui_->cbCategory, ui_->listCats, ui_->dtpSelDate,   ui_->lblTitle,
+                 ui_->chtMain, ui_->sbMain,     favesMenu_,    ui_->flFavePerson, ui_->cmdDetails};
     setMainControls(&controls_);
     setUpControls();
     connectEvents();
@@ -81,17 +81,13 @@ QAction& frmMain::command(const char* name) {
     return *entry;
 }
 
-PictureButton& frmMain::cmdDetails() {
-    return *ui_->cmdDetails;
-}
-
 void frmMain::connectEvents() {
     onEvent(ui_->cbCategory, &ComboBox::Click, this, &frmMain::cbCategory_Click);
     onEvent(ui_->chtMain, &Chart::MouseMove, this, &frmMain::chtMain_MouseMove);
     onEvent(ui_->cmdDecrease, &PictureButton::Click, this, &frmMain::cmdDecrease_Click);
     onEvent(ui_->cmdIncrease, &PictureButton::Click, this, &frmMain::cmdIncrease_Click);
-    onEvent(ui_->cmdQuickGo, &QPushButton::clicked, this, &frmMain::cmdQuickGo_Click);
-    onEvent(ui_->cmdReturn, &QPushButton::clicked, this, &frmMain::cmdReturn_Click);
+    onEvent(ui_->cmdQuickGo, &PictureButton::Click, this, &frmMain::cmdQuickGo_Click);
+    onEvent(ui_->cmdReturn, &PictureButton::Click, this, &frmMain::cmdReturn_Click);
     onEvent(ui_->dtpSelDate, &MonthView::SelChange, this, &frmMain::dtpSelDate_SelChange);
     onEvent(ui_->lstMain, &ListBox::Click, this, &frmMain::lstMain_Click);
     onEvent(ui_->mnuFileExit, &QAction::triggered, this, &frmMain::mnuFileExit_Click);

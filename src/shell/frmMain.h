@@ -9,7 +9,6 @@
 #include "shell/date_scroll.h"
 #include "shell/main_controls.h"
 
-class PictureButton;
 class QAction;
 
 namespace Ui {
@@ -28,8 +27,6 @@ class frmMain final : public Form {
 
     // A command's menu entry, by its name. There must be one.
     QAction& command(const char* name);
-
-    PictureButton& cmdDetails();
 
     // Whether the chart follows the quick birth date instead of the list.
     bool QuickMode = false;

@@ -7,6 +7,7 @@ class ComboBox;
 class FileListBox;
 class ListBox;
 class MonthView;
+class PictureButton;
 class QLabel;
 class StatusBar;
 
@@ -22,6 +23,7 @@ struct MainControls {
     StatusBar* sbMain;
     ButtonMenu* mnuFaves;  // the drop-down menu of the button "Faves"
     FileListBox* flFavePerson;
+    PictureButton* cmdDetails;
 };
 
 // The controls of the main window there is. There must be one.

@@ -31,7 +31,7 @@ void FillPersonList() {
 }
 
 void FillCategoryList() {
-    const std::vector<ListEntry> categories = readCategoryEntries();
+    const std::vector<ListEntry> categories = readCategoryFilter();
     mainControls().cbCategory->fill(categories);
     mainControls().listCats->fill(categories);
     mainControls().cbCategory->setListIndex(kEverybody);

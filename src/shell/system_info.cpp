@@ -13,8 +13,6 @@ namespace modCycles {
 namespace {
 
 constexpr auto kLocalMachine = static_cast<Long>(0x80000002);
-constexpr quint32 kText = 1;
-constexpr quint32 kNumber = 4;
 
 // The number whose hexadecimal digits are those of the bytes from the last to the first.
 QString numberOf(const QByteArray& bytes) {
@@ -56,9 +54,9 @@ bool GetKeyValue(Long KeyRoot, const QString& KeyName, const QString& SubKeyRef,
     QByteArray data = value->data;
     if (data.endsWith('\0'))
         data.chop(1);
-    if (value->type == kText)
+    if (value->type == RegistryType::Text)
         KeyVal = QString::fromLocal8Bit(data);
-    else if (value->type == kNumber)
+    else if (value->type == RegistryType::Number)
         KeyVal = numberOf(data);
     return true;
 }

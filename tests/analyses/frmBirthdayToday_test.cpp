@@ -65,6 +65,14 @@ TEST_F(BirthdayCalendar, OpensOnToday) {
     EXPECT_EQ(rows(), QStringList(QStringLiteral("Adler|28")));
 }
 
+TEST_F(BirthdayCalendar, OpensOnTheDayOnWhichItIsLoaded) {
+    frmBirthdayToday form(&load());
+    host_.setNow(DateSerial(2000, 3, 15));
+    form.Load();
+    EXPECT_EQ(child<DatePicker>(form, QStringLiteral("dtpBDayToday")).Value(),
+              DateSerial(2000, 3, 15));
+}
+
 TEST_F(BirthdayCalendar, CallsItsControlsByTheirTexts) {
     open();
     EXPECT_EQ(of<QLabel>("Label1").text(), QStringLiteral("Birthday calendar"));

@@ -70,7 +70,7 @@ void openCard(benchmark::State& state) {
     modCycles::SelectedNameID = 0;
 }
 
-// An empty window, opened, painted and closed.
+// Two reads, and an empty window opened, painted and closed.
 void openCardFloor(benchmark::State& state) {
     for (auto _ : state) {
         benchmark::DoNotOptimize(plainBirthdate(database(), 1));

@@ -3,8 +3,9 @@
 usage: measure.py PROGRAMS SCHEMA
 
 Makes a program directory for each number of people, starts Ondara there in turn with an empty
-window, and runs the routines of the main window and of the forms over it. Every figure is a median. A ratio of starts is
-that of neighbours in one round, so it holds while the machine is busy with something else.
+window, and runs the routines of the main window and of the forms over it. Every figure is a median.
+A ratio of starts is that of neighbours in one round, so it holds while the machine is busy with
+something else.
 """
 
 import json
@@ -180,7 +181,8 @@ def main():
         for people, folder in folders.items():
             lay_out(programs, schema, folder, people)
         starts = measure_starts(programs, folders)
-        routines = {people: measure_routines(folder, '-Favourites') for people, folder in folders.items()}
+        routines = {people: measure_routines(folder, '-Favourites')
+                    for people, folder in folders.items()}
         favourites = measure_routines(folders[PEOPLE[0]], 'Favourites')
     print_starts(*starts)
     print()

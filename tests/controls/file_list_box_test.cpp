@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 
 #include "support/event_counter.h"
+#include "support/files.h"
 #include "support/printing.h"
 #include "support/recording_host.h"
 
@@ -19,10 +20,7 @@ class FileList : public testing::Test {
         list_.setPattern(QStringLiteral("*.ofp"));
     }
 
-    void makeFile(const QString& name) {
-        QFile file(folder_.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    }
+    void make(const QString& name) { makeFile(folder_.filePath(name)); }
 
     QStringList names() const {
         QStringList all;
@@ -38,17 +36,17 @@ class FileList : public testing::Test {
 
 TEST_F(FileList, ShowsWhatMatchesWithItsExtensionInOrderOfName) {
     for (const char* name : {"Zed.ofp", "Émile.ofp", "smith.OFP", "abe.ofp", "team.ofg"})
-        makeFile(QString::fromUtf8(name));
+        make(QString::fromUtf8(name));
     list_.Refresh();
     EXPECT_EQ(names(), QStringList({QStringLiteral("abe.ofp"), QStringLiteral("Émile.ofp"),
                                     QStringLiteral("smith.OFP"), QStringLiteral("Zed.ofp")}));
 }
 
 TEST_F(FileList, ShowsAnotherStateAfterRefreshOnlyAndWithoutASelection) {
-    makeFile(QStringLiteral("abe.ofp"));
+    make(QStringLiteral("abe.ofp"));
     list_.Refresh();
     list_.setListIndex(0);
-    makeFile(QStringLiteral("Zed.ofp"));
+    make(QStringLiteral("Zed.ofp"));
     EXPECT_EQ(names(), QStringList(QStringLiteral("abe.ofp")));
     EXPECT_EQ(list_.FileName(), QStringLiteral("abe.ofp"));
     const EventCounter clicks(list_, &ListBox::Click);

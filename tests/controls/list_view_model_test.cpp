@@ -1,5 +1,5 @@
 // The rows of a list view as views read them.
-#include "controls/report_model.h"
+#include "controls/list_view_model.h"
 
 #include <gtest/gtest.h>
 
@@ -14,9 +14,9 @@ ListRow row(const QString& name, const QString& age) {
     return {.texts = {name, age}};
 }
 
-class ReportModelTest : public testing::Test {
+class ListViewModelTest : public testing::Test {
   protected:
-    ReportModelTest() {
+    ListViewModelTest() {
         model_.setColumns({{.header = QStringLiteral("Name")},
                            {.header = QStringLiteral("Age"), .alignment = Qt::AlignRight}});
     }
@@ -38,7 +38,7 @@ class ReportModelTest : public testing::Test {
         return names;
     }
 
-    ReportModel model_;
+    ListViewModel model_;
     QAbstractItemModelTester tester_{&model_,
                                      QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
@@ -49,7 +49,7 @@ const QString kAbe = QStringLiteral("abe");
 constexpr ListSorting kByName{.key = 0, .isOn = true};
 constexpr ListSorting kByAge{.key = 1, .isOn = true};
 
-TEST_F(ReportModelTest, ShowsEveryTextInItsColumnUnderItsHeader) {
+TEST_F(ListViewModelTest, ShowsEveryTextInItsColumnUnderItsHeader) {
     fillThree();
     ASSERT_EQ(model_.rowCount(), 3);
     ASSERT_EQ(model_.columnCount(), 2);
@@ -59,7 +59,7 @@ TEST_F(ReportModelTest, ShowsEveryTextInItsColumnUnderItsHeader) {
     EXPECT_FALSE(model_.headerData(1, Qt::Vertical, Qt::DisplayRole).isValid());
 }
 
-TEST_F(ReportModelTest, AlignsTextsAsTheirHeader) {
+TEST_F(ListViewModelTest, AlignsTextsAsTheirHeader) {
     fillThree();
     EXPECT_EQ(model_.headerData(1, Qt::Horizontal, Qt::TextAlignmentRole).toInt(),
               static_cast<int>(Qt::AlignRight | Qt::AlignVCenter));
@@ -69,7 +69,7 @@ TEST_F(ReportModelTest, AlignsTextsAsTheirHeader) {
               static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter));
 }
 
-TEST_F(ReportModelTest, ShowsThePictureOfItsKeyBeforeTheFirstText) {
+TEST_F(ListViewModelTest, ShowsThePictureOfItsKeyBeforeTheFirstText) {
     model_.fill({{.smallIcon = QStringLiteral("leo"), .texts = {kZed}}, {.texts = {kAbe}}});
     const auto picture = [this](int rowIndex, int column) {
         return model_.data(model_.index(rowIndex, column), Qt::DecorationRole);
@@ -79,20 +79,20 @@ TEST_F(ReportModelTest, ShowsThePictureOfItsKeyBeforeTheFirstText) {
     EXPECT_FALSE(picture(1, 0).isValid());
 }
 
-TEST_F(ReportModelTest, ShowsNothingWhereARowHasNoText) {
+TEST_F(ListViewModelTest, ShowsNothingWhereARowHasNoText) {
     model_.fill({{.texts = {kZed}}, {}});
     EXPECT_EQ(textAt(0, 1), QString());
     EXPECT_EQ(textAt(1, 0), QString());
 }
 
-TEST_F(ReportModelTest, TellsOfOneResetForAWholeFill) {
+TEST_F(ListViewModelTest, TellsOfOneResetForAWholeFill) {
     int resets = 0;
-    QObject::connect(&model_, &ReportModel::modelReset, &model_, [&] { ++resets; });
+    QObject::connect(&model_, &ListViewModel::modelReset, &model_, [&] { ++resets; });
     fillThree();
     EXPECT_EQ(resets, 1);
 }
 
-TEST_F(ReportModelTest, KeepsTheGivenOrderUntilItIsSorted) {
+TEST_F(ListViewModelTest, KeepsTheGivenOrderUntilItIsSorted) {
     fillThree();
     model_.add(row(QStringLiteral("Curie"), QStringLiteral("1")));
     EXPECT_EQ(names(), QStringList({kZed, kEmile, kAbe, QStringLiteral("Curie")}));
@@ -100,32 +100,32 @@ TEST_F(ReportModelTest, KeepsTheGivenOrderUntilItIsSorted) {
     EXPECT_EQ(names(), QStringList({kZed, kEmile, kAbe, QStringLiteral("Curie")}));
 }
 
-TEST_F(ReportModelTest, SortsWithoutRegardToCaseAndAccents) {
+TEST_F(ListViewModelTest, SortsWithoutRegardToCaseAndAccents) {
     fillThree();
     model_.setSorting(kByName);
     EXPECT_EQ(names(), QStringList({kAbe, kEmile, kZed}));
 }
 
-TEST_F(ReportModelTest, SortsNumbersAsTextAndLeavesEqualOnesInTheirOrder) {
+TEST_F(ListViewModelTest, SortsNumbersAsTextAndLeavesEqualOnesInTheirOrder) {
     fillThree();
     model_.setSorting(kByAge);
     EXPECT_EQ(names(), QStringList({kEmile, kZed, kAbe}));
 }
 
-TEST_F(ReportModelTest, SortsDownwardsToo) {
+TEST_F(ListViewModelTest, SortsDownwardsToo) {
     fillThree();
     model_.setSorting({.key = 1, .order = ListSortOrder::Descending, .isOn = true});
     EXPECT_EQ(names(), QStringList({kZed, kAbe, kEmile}));
 }
 
-TEST_F(ReportModelTest, SortsAnewByAnotherColumn) {
+TEST_F(ListViewModelTest, SortsAnewByAnotherColumn) {
     fillThree();
     model_.setSorting(kByAge);
     model_.setSorting(kByName);
     EXPECT_EQ(names(), QStringList({kAbe, kEmile, kZed}));
 }
 
-TEST_F(ReportModelTest, GoesOnSortingWhatComesLater) {
+TEST_F(ListViewModelTest, GoesOnSortingWhatComesLater) {
     model_.setSorting(kByAge);
     fillThree();
     EXPECT_EQ(names(), QStringList({kEmile, kZed, kAbe}));
@@ -136,7 +136,7 @@ TEST_F(ReportModelTest, GoesOnSortingWhatComesLater) {
                                     kAbe, QStringLiteral("Third")}));
 }
 
-TEST_F(ReportModelTest, LeavesItsRowsWhereTheyStandWhenSortingIsSwitchedOff) {
+TEST_F(ListViewModelTest, LeavesItsRowsWhereTheyStandWhenSortingIsSwitchedOff) {
     fillThree();
     model_.setSorting(kByName);
     model_.setSorting({});
@@ -145,7 +145,7 @@ TEST_F(ReportModelTest, LeavesItsRowsWhereTheyStandWhenSortingIsSwitchedOff) {
     EXPECT_EQ(names().last(), QStringLiteral("Curie"));
 }
 
-TEST_F(ReportModelTest, KeepsAViewsRememberedRowsThroughASort) {
+TEST_F(ListViewModelTest, KeepsAViewsRememberedRowsThroughASort) {
     fillThree();
     const QPersistentModelIndex zed = model_.index(0, 1);
     const QPersistentModelIndex abe = model_.index(2, 0);

@@ -95,13 +95,13 @@ TEST_F(WizardEntries, LetsTheSplitBeEdited) {
     press("cmdEdit");
     EXPECT_EQ(captionOf("cmdEdit"), QStringLiteral("&Update"));
     expectNamesLocked(false);
-    in<TextBox>("txtF").setText(QStringLiteral(" Anna Maria"));
-    in<TextBox>("txtN").setText(QStringLiteral("Lee "));
+    in<TextBox>("txtF").setText(QStringLiteral(" Ann"));
+    in<TextBox>("txtN").setText(QStringLiteral("Leigh "));
     press("cmdEdit");
     EXPECT_EQ(captionOf("cmdEdit"), QStringLiteral("&Edit"));
     expectNamesLocked(true);
-    EXPECT_EQ(textOf("txtType"), kThreeWords);
-    expectNames(QStringLiteral(" Anna Maria"), QStringLiteral("Lee "));
+    EXPECT_EQ(textOf("txtType"), QStringLiteral("Ann Leigh"));
+    expectNames(QStringLiteral(" Ann"), QStringLiteral("Leigh "));
 }
 
 TEST_F(WizardEntries, KeepsAnEditedSplitThroughTheOtherSteps) {

@@ -12,6 +12,7 @@
 #include "shell/main_controls.h"
 #include "store/favourites.h"
 #include "support/errors.h"
+#include "support/files.h"
 #include "support/main_window.h"
 
 using namespace modCycles;
@@ -29,10 +30,8 @@ class FavouritesMenu : public MainWindowTest {
         return all;
     }
 
-    void makeFile(const QString& name, const QByteArray& bytes = {}) {
-        QFile file(directory_.path(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
+    void make(const QString& name, const QByteArray& bytes = {}) {
+        makeFile(directory_.path(name), bytes);
     }
 
     QStringList favouriteFiles() {
@@ -57,9 +56,9 @@ TEST_F(FavouritesMenu, BeginsWithTheEntriesThatStay) {
 }
 
 TEST_F(FavouritesMenu, IsFilledWhenTheMainWindowIsLoaded) {
-    makeFile(QStringLiteral("Zed.ofp"));
-    makeFile(QStringLiteral("a.b.ofp"));
-    makeFile(QStringLiteral("smith, anna.OFP"));
+    make(QStringLiteral("Zed.ofp"));
+    make(QStringLiteral("a.b.ofp"));
+    make(QStringLiteral("smith, anna.OFP"));
     load();
     EXPECT_EQ(texts(), kFixed + QStringList({QStringLiteral("a.b"), QStringLiteral("smith, anna"),
                                              QStringLiteral("Zed")}));
@@ -68,27 +67,27 @@ TEST_F(FavouritesMenu, IsFilledWhenTheMainWindowIsLoaded) {
 }
 
 TEST_F(FavouritesMenu, IsRebuiltFromTheFilesOfTheMoment) {
-    makeFile(QStringLiteral("Adler, Ben.ofp"));
-    makeFile(QStringLiteral("Zed.ofp"));
+    make(QStringLiteral("Adler, Ben.ofp"));
+    make(QStringLiteral("Zed.ofp"));
     load();
     QFile::remove(directory_.path(QStringLiteral("Zed.ofp")));
-    makeFile(QStringLiteral("Abe.ofp"));
+    make(QStringLiteral("Abe.ofp"));
     FillFavouritesMenu();
     EXPECT_EQ(texts(), kFixed + QStringList({QStringLiteral("Abe"), QStringLiteral("Adler, Ben")}));
     EXPECT_TRUE(control<FileListBox>("flFavePerson").isHidden());
 }
 
 TEST_F(FavouritesMenu, KeepsItsLastEntryWhenThatFavouriteIsDeleted) {
-    makeFile(QStringLiteral("Zed.ofp"));
+    make(QStringLiteral("Zed.ofp"));
     load();
-    deleteFavourite(QStringLiteral("Zed.ofp"));
+    deleteFavouriteFile(QStringLiteral("Zed.ofp"));
     FillFavouritesMenu();
     EXPECT_EQ(texts(), kFixed + QStringList(QStringLiteral("Zed")));
 }
 
 TEST_F(FavouritesMenu, TakesWholeAnyMenuWithoutFixedEntries) {
     load();
-    makeFile(QStringLiteral("Zed.ofp"));
+    make(QStringLiteral("Zed.ofp"));
     ButtonMenu other;
     other.Add({}, QStringLiteral("old"));
     fillFavourites(other, 0, control<FileListBox>("flFavePerson"));
@@ -105,7 +104,7 @@ TEST_F(FavouritesMenu, GainsThePersonWhoIsAdded) {
 }
 
 TEST_F(FavouritesMenu, HasNobodyTwice) {
-    makeFile(QStringLiteral("smith, anna.ofp"), "1,\"somebody\"\r\n");
+    make(QStringLiteral("smith, anna.ofp"), "1,\"somebody\"\r\n");
     loadAndChoose(kAnna);
     addFavourite();
     addFavourite();
@@ -147,7 +146,7 @@ TEST_F(FavouritesMenu, FindsByTheTextAndNotByTheNumber) {
 }
 
 TEST_F(FavouritesMenu, FindsTheTextLetterForLetter) {
-    makeFile(QStringLiteral("Smith, Anna.ofp"), "1,\"smith, anna\"\r\n");
+    make(QStringLiteral("Smith, Anna.ofp"), "1,\"smith, anna\"\r\n");
     load();
     EXPECT_FALSE(select(kAnna));
 }
@@ -176,10 +175,10 @@ TEST_F(FavouritesMenu, LeavesEverybodyListedAndNobodySelectedForSomeoneWhoIsGone
 }
 
 TEST_F(FavouritesMenu, ChangesNothingWhenAFileCannotBeRead) {
-    makeFile(QStringLiteral("empty.ofp"));
-    makeFile(QStringLiteral("cut.ofp"), "1,\"Smith, An");
-    makeFile(QStringLiteral("random.ofp"), QByteArray::fromHex("00ff80c3282c22e2820a0d1b"));
-    makeFile(QStringLiteral("long.ofp"), QByteArray(5'000'000, 'x'));
+    make(QStringLiteral("empty.ofp"));
+    make(QStringLiteral("cut.ofp"), "1,\"Smith, An");
+    make(QStringLiteral("random.ofp"), QByteArray::fromHex("00ff80c3282c22e2820a0d1b"));
+    make(QStringLiteral("long.ofp"), QByteArray(5'000'000, 'x'));
     loadAndChoose(kAnna);
     control<ComboBox>("cbCategory").setText(QStringLiteral("Family"));
     control<ListBox>("lstMain").setText(kAnna);

@@ -79,6 +79,8 @@ TEST_F(MainWindow, CallsItsControlsByTheirTextsBeforeItIsLoaded) {
     EXPECT_TRUE(child<ListBox>(unloaded, QStringLiteral("listCats")).isHidden());
     EXPECT_EQ(child<QPushButton>(unloaded, QStringLiteral("cmdQuickGo")).text(),
               QStringLiteral("&Go"));
+    EXPECT_EQ(child<QPushButton>(unloaded, QStringLiteral("cmdReturn")).text(),
+              QStringLiteral("&Return to database"));
 }
 
 TEST_F(MainWindow, ScrollsByUnitsThatStandInTheirOrder) {

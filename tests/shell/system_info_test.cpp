@@ -16,10 +16,10 @@ using modCycles::StartSysInfo;
 namespace {
 
 constexpr auto kLocalMachine = static_cast<Long>(0x80000002);
-constexpr quint32 kText = 1;
-constexpr quint32 kExpandableText = 2;
-constexpr quint32 kBinary = 3;
-constexpr quint32 kNumber = 4;
+constexpr auto kText = RegistryType::Text;
+constexpr auto kExpandableText = RegistryType{2};
+constexpr auto kBinary = RegistryType{3};
+constexpr auto kNumber = RegistryType::Number;
 
 const QString kKey = QStringLiteral("SOFTWARE\\Ondara");
 const QString kName = QStringLiteral("Value");
@@ -34,7 +34,7 @@ QByteArray bytes(std::initializer_list<int> values) {
 
 class RegistryValueOfTheKey : public testing::Test {
   protected:
-    void write(quint32 type, const QByteArray& data) {
+    void write(RegistryType type, const QByteArray& data) {
         host_.setRegistryValue(kLocalMachine, kKey, kName, {type, data});
     }
 
@@ -60,13 +60,13 @@ class RegistryValueOfTheKey : public testing::Test {
 
 class SysInfo : public testing::Test {
   protected:
-    void setPath(quint32 type, const QByteArray& data) {
+    void setPath(RegistryType type, const QByteArray& data) {
         host_.setRegistryValue(kLocalMachine,
                                QStringLiteral("SOFTWARE\\Microsoft\\Shared Tools\\MSINFO"),
                                QStringLiteral("PATH"), {type, data});
     }
 
-    void setFolder(quint32 type, const QByteArray& data) {
+    void setFolder(RegistryType type, const QByteArray& data) {
         host_.setRegistryValue(kLocalMachine,
                                QStringLiteral("SOFTWARE\\Microsoft\\Shared Tools Location"),
                                QStringLiteral("MSINFO"), {type, data});
@@ -140,9 +140,10 @@ TEST_F(RegistryValueOfTheKey, IsNoNumberBeyond32Bits) {
 }
 
 TEST_F(RegistryValueOfTheKey, IsNotTakenFromAnyOtherKind) {
-    for (quint32 type : {0U, kExpandableText, kBinary, 7U, 11U, 0xFFFFFFFFU}) {
+    for (const RegistryType type :
+         {RegistryType{0}, kExpandableText, kBinary, RegistryType{7}, RegistryType{0xFFFFFFFF}}) {
         write(type, "text");
-        EXPECT_EQ(read(), QStringLiteral("before")) << type;
+        EXPECT_EQ(read(), QStringLiteral("before")) << static_cast<quint32>(type);
     }
 }
 

@@ -2,10 +2,11 @@
 #pragma once
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QUrl>
+
+#include "support/files.h"
 
 // The help is "test.chm", in a directory that goes with everything in it when the test ends.
 class HelpFiles {
@@ -22,9 +23,7 @@ class HelpFiles {
 
     void write(const QString& name, const QByteArray& bytes) const {
         QDir().mkpath(QFileInfo(path(name)).path());
-        QFile file(path(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("%s cannot be written", qPrintable(file.fileName()));
+        makeFile(path(name), bytes);
     }
 
     void writeContents(const QByteArray& bytes) const { write(QStringLiteral("test.hhc"), bytes); }

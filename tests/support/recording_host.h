@@ -16,8 +16,8 @@
 
 // It is 14 March 2000, 14:05, in English, with dates as dd/MM/yyyy. The registry is empty. A box, a
 // program or a help file that the test did not expect fails the test, and so does an expected one
-// that never comes. An end of the process is
-// recorded, and what the program would do after it goes unnoticed, as there is no program then.
+// that never comes. An end of the process is recorded, and what the program would do after it goes
+// unnoticed, as there is no program then.
 class RecordingHost final : public Host {
   public:
     RecordingHost();

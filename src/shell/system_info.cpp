@@ -2,6 +2,7 @@
 #include "shell/system_info.h"
 
 #include <QFileInfo>
+#include <QStringList>
 #include <algorithm>
 #include <optional>
 
@@ -13,6 +14,14 @@ namespace modCycles {
 namespace {
 
 constexpr auto kLocalMachine = static_cast<Long>(0x80000002);
+
+// The text of these bytes, with every zero character in it; on Windows a conversion ends at one.
+QString textOf(const QByteArray& bytes) {
+    QStringList pieces;
+    for (const QByteArray& piece : bytes.split('\0'))
+        pieces += QString::fromLocal8Bit(piece);
+    return pieces.join(QChar::Null);
+}
 
 // The number whose hexadecimal digits are those of the bytes from the last to the first.
 QString numberOf(const QByteArray& bytes) {
@@ -55,7 +64,7 @@ bool GetKeyValue(Long KeyRoot, const QString& KeyName, const QString& SubKeyRef,
     if (data.endsWith('\0'))
         data.chop(1);
     if (value->type == RegistryType::Text)
-        KeyVal = QString::fromLocal8Bit(data);
+        KeyVal = textOf(data);
     else if (value->type == RegistryType::Number)
         KeyVal = numberOf(data);
     return true;

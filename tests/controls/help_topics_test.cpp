@@ -2,12 +2,12 @@
 #include "controls/help_topics.h"
 
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 
 #include <chrono>
 
 #include "support/help_files.h"
 #include "support/printing.h"
+#include "support/properties.h"
 
 void PrintTo(const HelpTopic& topic, std::ostream* out) {
     *out << topic.level << ' ' << topic.title.toStdString() << " (" << topic.page.toStdString()
@@ -119,6 +119,8 @@ TEST(HelpTopics, AreReadInOneGo) {
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
 }
 
+#ifdef RC_GTEST_PROP
+
 RC_GTEST_PROP(HelpTopics, AreTakenFromAnyText, ()) {
     const auto pieces = *rc::gen::container<std::vector<std::string>>(
         rc::gen::element<std::string>("<UL>", "</UL>", "<OBJECT>", "</OBJECT>", "<", ">", "\"", "&",
@@ -134,5 +136,7 @@ RC_GTEST_PROP(HelpTopics, AreTakenFromAnyText, ()) {
         deepest = std::min(found.level + 1, kDeepestHelpLevel);
     }
 }
+
+#endif
 
 }  // namespace

@@ -97,6 +97,8 @@ TEST_F(RegistryValueOfTheKey, IsATextWithoutTheZeroAtItsEnd) {
 TEST_F(RegistryValueOfTheKey, LosesOneZeroOnly) {
     write(kText, QByteArray("tool\0\0", 6));
     EXPECT_EQ(read(), QString::fromLatin1("tool\0", 5));
+    write(kText, QByteArray("to\0ol\0", 6));
+    EXPECT_EQ(read(), QString::fromLatin1("to\0ol", 5));
 }
 
 TEST_F(RegistryValueOfTheKey, KeepsItsLastCharacterIfThatIsNoZero) {

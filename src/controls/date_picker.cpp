@@ -21,7 +21,9 @@ DatePicker::DatePicker(QWidget* parent) : QDateEdit(parent), DateControl(host().
 bool DatePicker::event(QEvent* event) {
     const bool wantsKey = event->type() == QEvent::ShortcutOverride &&
                           static_cast<QKeyEvent*>(event)->matches(QKeySequence::SelectAll);
-    return wantsKey ? QWidget::event(event) : QDateEdit::event(event);
+    if (wantsKey)
+        event->ignore();
+    return !wantsKey && QDateEdit::event(event);
 }
 
 // A field that stays hidden needs no calendar, which is the larger part of it.

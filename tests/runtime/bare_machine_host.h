@@ -9,6 +9,7 @@
 class BareMachineHost : public MachineHost {
   public:
     Answer showMessage(const Message&) override { std::abort(); }
+    void beep() override { std::abort(); }
     void yield() override { std::abort(); }
     void paintWindows() override { std::abort(); }
 };

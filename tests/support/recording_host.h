@@ -30,6 +30,8 @@ class RecordingHost final : public Host {
     // Ends the record of an end of the process that the test has looked at.
     void forgetExit() { exitCode_.reset(); }
 
+    int beeps() const { return beeps_; }
+
     int yields() const { return yields_; }
 
     // What is to happen whenever windows are let to appear and paint.
@@ -46,6 +48,7 @@ class RecordingHost final : public Host {
     QString programDirectory() const override { return programDirectory_; }
     bool anotherInstanceRuns() const override { return anotherInstanceRuns_; }
     Answer showMessage(const Message& message) override;
+    void beep() override { ++beeps_; }
     void yield() override { ++yields_; }
     void paintWindows() override;
     void endProcess(int exitCode) override;
@@ -63,6 +66,7 @@ class RecordingHost final : public Host {
     std::vector<Expected> expected_;  // those still to come, in order
     std::vector<Message> messages_;
     std::optional<int> exitCode_;
+    int beeps_ = 0;
     int yields_ = 0;
     std::function<void()> onPaintWindows_;
 };

@@ -153,7 +153,6 @@ void RecordEditor::cmdUpdate_Click() {
     trapped(this, [this] {
         adoPrimaryRS_->Edit();
         adoPrimaryRS_->UpdateBatch(adAffectAll);
-        inputs_->show();
         if (mbAddNewFlag)
             go(&Recordset::MoveLast);
         endEditing();

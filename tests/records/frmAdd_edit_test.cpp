@@ -137,7 +137,9 @@ TEST_F(PersonEdit, LeavesTheListOfCategoriesForANumberOfNoneAndForNoNumber) {
 
 TEST_F(PersonEdit, AddsAPersonOfTheFirstCategory) {
     const Long aunts = addCategory(QStringLiteral("aunts"));
+    addPerson({.name = QStringLiteral("Aa"), .isFemale = true});
     open();
+    EXPECT_EQ(labelOf("lblMF"), QStringLiteral("Female"));
     press("cmdAdd");
     EXPECT_EQ(in<ComboBox>("cbAddCat").Text(), QStringLiteral("aunts"));
     EXPECT_EQ(textOf("txtFields_4"), QString::number(aunts));
@@ -145,7 +147,7 @@ TEST_F(PersonEdit, AddsAPersonOfTheFirstCategory) {
     EXPECT_FALSE(in<QCheckBox>("chkGender").isChecked());
     EXPECT_TRUE(in<DatePicker>("dtpBirthday").isEmpty());
     EXPECT_EQ(labelOf("lblID"), QString());
-    EXPECT_EQ(peopleStored(), Value(3));
+    EXPECT_EQ(peopleStored(), Value(4));
     enter("txtFields_0", QStringLiteral("Moss"));
     enterBirthday(QStringLiteral("2"));
     press("cmdUpdate");

@@ -78,11 +78,13 @@ TEST_F(PersonManager, CaptionsItsAlphabet) {
 TEST_F(PersonManager, HasTheCategoriesInOrder) {
     addCategory(QStringLiteral("aunts"));
     open();
-    const auto& list = in<ComboBox>("cbAddCat");
+    auto& list = in<ComboBox>("cbAddCat");
     ASSERT_EQ(list.ListCount(), 3);
     EXPECT_EQ(list.List(0), QStringLiteral("aunts"));
     EXPECT_EQ(list.List(1), QStringLiteral("Family"));
     EXPECT_EQ(list.ItemData(1), family_);
+    list.AddItem(QStringLiteral("Cousins"));
+    EXPECT_EQ(list.NewIndex(), 1);
 }
 
 TEST_F(PersonManager, ShowsNoBirthDateThatIsNullOrNoDate) {

@@ -271,10 +271,15 @@ TYPED_TEST(EveryEditor, TellsOfAMoveThatIsImpossibleInAnEmptyTable) {
     this->runOnStore(Rows<TypeParam>::kDeleteAll);
     TypeParam form(&this->window());
     form.Show();
+    const auto press = [&](const char* arrow) {
+        child<QAbstractButton>(form, QString::fromLatin1(arrow)).click();
+    };
     for (const char* arrow : {"cmdFirst", "cmdLast"}) {
         this->expectTrap(this->kNoCurrentRecord);
-        child<QAbstractButton>(form, QString::fromLatin1(arrow)).click();
+        press(arrow);
     }
+    for (const char* arrow : {"cmdPrevious", "cmdNext"})
+        press(arrow);
     EXPECT_EQ(this->host_.messages().size(), 2U);
     EXPECT_EQ(this->host_.beeps(), 0);
 }

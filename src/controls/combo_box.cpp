@@ -1,7 +1,9 @@
 // The drop-down list on Qt's combo box.
 #include "controls/combo_box.h"
 
+#include <QKeyEvent>
 #include <QListView>
+#include <QWheelEvent>
 
 namespace {
 
@@ -21,4 +23,23 @@ ComboBox::ComboBox(QWidget* parent) : QComboBox(parent) {
         follow(index);
         fireClick();
     });
+}
+
+void ComboBox::showPopup() {
+    if (!locked_)
+        QComboBox::showPopup();
+}
+
+void ComboBox::keyPressEvent(QKeyEvent* event) {
+    if (locked_)
+        event->ignore();
+    else
+        QComboBox::keyPressEvent(event);
+}
+
+void ComboBox::wheelEvent(QWheelEvent* event) {
+    if (locked_)
+        event->ignore();
+    else
+        QComboBox::wheelEvent(event);
 }

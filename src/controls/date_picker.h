@@ -9,6 +9,10 @@ class QuietCalendar;
 
 // Change is fired when the user has changed the date. A window's shortcut for Ctrl+A stays the
 // window's while the field has the focus.
+//
+// The field can be empty. It has a date again when code sets one or the user begins: a key that
+// types or steps starts from today, and the calendar opens on today. Value is today while it is
+// empty. A field that is disabled is still to be read, and looks like a locked text box.
 class DatePicker final : public QDateEdit, public DateControl {
     Q_OBJECT
 
@@ -20,16 +24,29 @@ class DatePicker final : public QDateEdit, public DateControl {
     QString CustomFormat() const { return displayFormat(); }
     void setCustomFormat(const QString& format) { setDisplayFormat(format); }
 
+    bool isEmpty() const { return empty_; }
+    void setEmpty();
+
+    void stepBy(int steps) override;
+
   Q_SIGNALS:
     void Change();
 
   protected:
     bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
-    void showValue(QDate value) override { setDate(value); }
-    void showMinDate(QDate minDate) override { setMinimumDate(minDate); }
+    void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void showValue(QDate value) override;
+    void showMinDate(QDate minDate) override;
     void fireChange() override { Q_EMIT Change(); }
 
   private:
+    void userShows(QDate day);
+    void beginToday();
+    void followPalette();
+
     QuietCalendar* calendar_ = nullptr;  // the one that drops down
+    bool empty_ = false;
 };

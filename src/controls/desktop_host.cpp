@@ -1,4 +1,4 @@
-// The desktop's help, message boxes and event queue.
+// The desktop's help, message boxes, beep and event queue.
 #include "controls/desktop_host.h"
 
 #include <QApplication>
@@ -104,6 +104,10 @@ Answer DesktopHost::showMessage(const Message& message) {
     box.setStandardButtons(buttonsOf(message.buttons));
     makeRoomForTitle(box);
     return answerOf(box.exec());
+}
+
+void DesktopHost::beep() {
+    QApplication::beep();
 }
 
 void DesktopHost::yield() {

@@ -1,4 +1,5 @@
-// The host of the desktop: the machine's, with the desktop's help, message boxes and event queue.
+// The host of the desktop: the machine's, with the desktop's help, message boxes, beep and event
+// queue.
 #pragma once
 
 #include <memory>
@@ -15,6 +16,7 @@ class DesktopHost final : public MachineHost {
 
     void showHelp(QObject* owner, const QString& fileName) override;
     Answer showMessage(const Message& message) override;
+    void beep() override;
     void yield() override;
     void paintWindows() override;
 

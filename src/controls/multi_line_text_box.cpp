@@ -13,3 +13,8 @@ QString MultiLineTextBox::Text() const {
     text.replace(QChar::LineSeparator, lineEnd);
     return text;
 }
+
+void MultiLineTextBox::setLocked(bool locked) {
+    setReadOnly(locked);
+    viewport()->setBackgroundRole(locked ? QPalette::Button : QPalette::Base);
+}

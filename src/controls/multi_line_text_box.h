@@ -12,4 +12,7 @@ class MultiLineTextBox final : public QPlainTextEdit {
 
     QString Text() const;
     void setText(const QString& text) { setPlainText(text); }
+
+    // Whether the user is kept from changing the text. A locked box is in the colour of buttons.
+    void setLocked(bool locked);
 };

@@ -8,6 +8,11 @@ TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
     setBackgroundRole(QPalette::Base);
 }
 
+void TextBox::setLocked(bool locked) {
+    setReadOnly(locked);
+    setBackgroundRole(locked ? QPalette::Button : QPalette::Base);
+}
+
 void TextBox::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
     if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)

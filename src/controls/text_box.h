@@ -14,6 +14,9 @@ class TextBox final : public QLineEdit {
   public:
     explicit TextBox(QWidget* parent = nullptr);
 
+    // Whether the user is kept from changing the text. A locked box is in the colour of buttons.
+    void setLocked(bool locked);
+
   Q_SIGNALS:
     void LostFocus();
 

@@ -175,8 +175,6 @@ void frmAddNew::showName(const SplitName& name) {
 // Either the typed name can be changed or the names that were derived from it.
 void frmAddNew::lockNames(bool locked) {
     ui_->txtType->setReadOnly(!locked);
-    for (TextBox* box : {ui_->txtF, ui_->txtN}) {
-        box->setReadOnly(locked);
-        box->setBackgroundRole(locked ? QPalette::Button : QPalette::Base);
-    }
+    for (TextBox* box : {ui_->txtF, ui_->txtN})
+        box->setLocked(locked);
 }

@@ -1,4 +1,4 @@
-// The event boundary and the error trap: where a run-time error stops.
+// The event boundary, the error trap and the ignoring of errors: where a run-time error stops.
 //
 // Every event routine is connected by onEvent. A run-time error that no trap has ended reaches the
 // boundary there, which shows the run-time's box and ends the process; no exception crosses the
@@ -53,5 +53,16 @@ bool trapped(QObject* owner, Steps&& steps) {
     } catch (...) {
         event_detail::report(owner, event_detail::currentError());
         return true;
+    }
+}
+
+// Runs one statement of a routine that ignores errors: a run-time error of it is forgotten, and the
+// next statement runs.
+template <class Statement>
+void resumingNext(Statement&& statement) {
+    try {
+        std::invoke(std::forward<Statement>(statement));
+    } catch (...) {
+        event_detail::currentError();
     }
 }

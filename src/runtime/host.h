@@ -55,6 +55,9 @@ class Host {
     // Shows the message box and waits for the answer.
     virtual Answer showMessage(const Message& message) = 0;
 
+    // Sounds the system's beep.
+    virtual void beep() = 0;
+
     // Lets every window process its waiting events, once.
     virtual void yield() = 0;
 

@@ -240,6 +240,11 @@ Value Recordset::Fields(QStringView name) const {
     return set.table.row(row)[field].value();
 }
 
+void Recordset::Edit() {
+    open().writer();
+    open().currentRow();
+}
+
 void Recordset::Collect(QStringView name, Value value) {
     Contents& set = open();
     set.writer();

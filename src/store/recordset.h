@@ -71,6 +71,10 @@ class Recordset {
     // The value of a field in the current row, pending ones included.
     Value Fields(QStringView name) const;
 
+    // Makes sure that the current row can be changed: raises what Collect would raise, and changes
+    // nothing. After it, Collect asks nothing more of the store.
+    void Edit();
+
     // Writes a field of the current row; it is pending until the row is updated.
     void Collect(QStringView name, Value value);
 

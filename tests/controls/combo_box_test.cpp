@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>
+#include <QCoreApplication>
+#include <QWheelEvent>
 
 #include "support/event_counter.h"
 #include "support/recording_host.h"
@@ -74,4 +76,44 @@ TEST_F(ComboBoxTest, IsAsWideForManyLongEntriesAsForNone) {
     const int width = list_.sizeHint().width();
     list_.fill({{QString(500, QLatin1Char('W'))}});
     EXPECT_EQ(list_.sizeHint().width(), width);
+}
+
+class LockedComboBox : public ComboBoxTest {
+  protected:
+    LockedComboBox() {
+        list_.setListIndex(1);
+        list_.setLocked(true);
+    }
+
+    void turnWheel() {
+        QWheelEvent turn(list_.rect().center(), list_.mapToGlobal(list_.rect().center()), {},
+                         {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&list_, &turn);
+    }
+};
+
+TEST_F(LockedComboBox, TakesNoChoiceOfTheUsers) {
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_End, Qt::Key_Home, Qt::Key_Y})
+        pressKey(list_, key);
+    turnWheel();
+    click(list_);
+    EXPECT_FALSE(list_.view()->isVisible());
+    EXPECT_EQ(list_.ListIndex(), 1);
+    EXPECT_EQ(list_.Text(), QStringLiteral("Weeks"));
+    EXPECT_EQ(clicks_.fired(), 1);  // that of the code
+}
+
+TEST_F(LockedComboBox, CanStillBeSetByCode) {
+    list_.setListIndex(2);
+    EXPECT_EQ(list_.Text(), QStringLiteral("Years"));
+    EXPECT_EQ(clicks_.fired(), 2);
+}
+
+TEST_F(LockedComboBox, TakesChoicesAgainOnceItIsOpen) {
+    list_.setLocked(false);
+    pressKey(list_, Qt::Key_Down);
+    EXPECT_EQ(list_.ListIndex(), 2);
+    turnWheel();
+    pick(0);
+    EXPECT_EQ(list_.ListIndex(), 0);
 }

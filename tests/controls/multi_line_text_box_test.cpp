@@ -57,3 +57,21 @@ TEST_F(MultiLineTextBoxTest, LetsTabGoOnToTheNextControl) {
     EXPECT_EQ(box->Text(), QString());
     EXPECT_EQ(window.focusWidget(), next);
 }
+
+TEST_F(MultiLineTextBoxTest, TakesNoTextWhileItIsLockedAndLooksLikeAButton) {
+    QPalette palette;
+    palette.setColor(QPalette::Base, Qt::yellow);
+    palette.setColor(QPalette::Button, Qt::cyan);
+    box_.setPalette(palette);
+    const auto paintedColour = [this] {
+        return box_.grab().toImage().pixelColor(box_.viewport()->geometry().center());
+    };
+    box_.setLocked(true);
+    type(box_, QStringLiteral("a"));
+    EXPECT_EQ(box_.Text(), QString());
+    EXPECT_EQ(paintedColour(), QColor(Qt::cyan));
+    box_.setLocked(false);
+    type(box_, QStringLiteral("a"));
+    EXPECT_EQ(box_.Text(), QStringLiteral("a"));
+    EXPECT_EQ(paintedColour(), QColor(Qt::yellow));
+}

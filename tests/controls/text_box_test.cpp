@@ -8,6 +8,7 @@
 
 #include "support/event_counter.h"
 #include "support/recording_host.h"
+#include "support/widget_driver.h"
 
 namespace {
 
@@ -67,4 +68,16 @@ TEST_F(TextBoxTest, FollowsThePaletteWhenThatChanges) {
     EXPECT_EQ(paintedColour(), QColor(Qt::cyan));
     box_.setPalette(paletteOf(Qt::darkBlue, Qt::darkGreen));
     EXPECT_EQ(paintedColour(), QColor(Qt::darkGreen));
+}
+
+TEST_F(TextBoxTest, TakesNoTextWhileItIsLockedAndLooksLikeAButton) {
+    box_.setPalette(paletteOf(Qt::yellow, Qt::cyan));
+    box_.setLocked(true);
+    type(box_, QStringLiteral("a"));
+    EXPECT_EQ(box_.text(), QString());
+    EXPECT_EQ(paintedColour(), QColor(Qt::cyan));
+    box_.setLocked(false);
+    EXPECT_EQ(paintedColour(), QColor(Qt::yellow));
+    type(box_, QStringLiteral("a"));
+    EXPECT_EQ(box_.text(), QStringLiteral("a"));
 }

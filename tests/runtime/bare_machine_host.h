@@ -10,6 +10,7 @@ class BareMachineHost : public MachineHost {
   public:
     void showHelp(QObject*, const QString&) override { std::abort(); }
     Answer showMessage(const Message&) override { std::abort(); }
+    void beep() override { std::abort(); }
     void yield() override { std::abort(); }
     void paintWindows() override { std::abort(); }
 };

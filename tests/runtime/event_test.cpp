@@ -1,4 +1,4 @@
-// The event boundary and the error trap.
+// The event boundary, the error trap and the ignoring of errors.
 #include "runtime/event.h"
 
 #include <gtest/gtest.h>
@@ -180,4 +180,23 @@ TEST_F(Trap, KeepsAnErrorFromTheBoundaryAroundIt) {
     });
     EXPECT_TRUE(wentOn);
     EXPECT_EQ(host_.exitCode(), std::nullopt);
+}
+
+TEST_F(Event, GoesOnWithTheNextStatementWhereErrorsAreIgnored) {
+    QStringList ran;
+    runEvent([&] {
+        resumingNext([&] {
+            ran.append(QStringLiteral("first"));
+            raise(ErrorNumber::DiskFull);
+        });
+        resumingNext([] { DateSerial(9999, 12, 31) + 1; });
+        resumingNext([&] { ran.append(QStringLiteral("last")); });
+    });
+    EXPECT_EQ(ran, QStringList({QStringLiteral("first"), QStringLiteral("last")}));
+    EXPECT_TRUE(host_.messages().empty());
+    EXPECT_EQ(host_.exitCode(), std::nullopt);
+}
+
+TEST_F(EventDeathTest, TerminatesOnADefectWhereErrorsAreIgnored) {
+    EXPECT_DEATH(runEvent([] { resumingNext([] { throw std::logic_error("a defect"); }); }), "");
 }

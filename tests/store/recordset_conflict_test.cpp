@@ -1,4 +1,5 @@
 // Two that write the same rows.
+#include <SQLiteCpp/Database.h>
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -121,4 +122,24 @@ TEST_F(RecordsetConflictTest, HasTheNumberOfARowThatIsNotLocated) {
     set_->Collect(u"Notes", kMine);
     another("Name = 'Zed'");
     EXPECT_EQ(errorOf([&] { set_->Update(); }), -2147217864);
+}
+
+TEST_F(RecordsetConflictTest, SaysBeforeAnEditWhatStandsInItsWay) {
+    SQLite::Database other(directory_.people().toStdString(), SQLite::OPEN_READWRITE);
+    other.exec("BEGIN EXCLUSIVE");
+    EXPECT_EQ(errorOf([&] { set_->Edit(); }), 70);
+    other.exec("COMMIT");
+    EXPECT_EQ(errorOf([&] { set_->Edit(); }), 0);
+    set_->MovePrevious();
+    EXPECT_EQ(errorOf([&] { set_->Edit(); }), 3021);
+    Recordset readOnly(connection_, statements::allPeopleWithNotes(), adLockReadOnly);
+    EXPECT_EQ(errorOf([&] { readOnly.Edit(); }), 3251);
+}
+
+TEST_F(RecordsetConflictTest, NeedsNothingOfTheStoreToCollectAfterAnEditHasBegun) {
+    set_->Edit();
+    SQLite::Database other(directory_.people().toStdString(), SQLite::OPEN_READWRITE);
+    other.exec("BEGIN EXCLUSIVE");
+    set_->Collect(u"Notes", kMine);
+    EXPECT_EQ(set_->Fields(u"Notes"), Value(kMine));
 }

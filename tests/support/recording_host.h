@@ -41,6 +41,8 @@ class RecordingHost final : public Host {
     // Ends the record of an end of the process that the test has looked at.
     void forgetExit() { exitCode_.reset(); }
 
+    int beeps() const { return beeps_; }
+
     int yields() const { return yields_; }
 
     // What is to happen whenever windows are let to appear and paint.
@@ -63,6 +65,7 @@ class RecordingHost final : public Host {
     void startProgram(const QString& path) override;
     void showHelp(QObject* owner, const QString& fileName) override;
     Answer showMessage(const Message& message) override;
+    void beep() override { ++beeps_; }
     void yield() override { ++yields_; }
     void paintWindows() override;
     void endProcess(int exitCode) override;
@@ -88,6 +91,7 @@ class RecordingHost final : public Host {
     std::vector<ExpectedStart> expectedStarts_;  // those still to come, in order
     std::vector<QString> expectedHelp_;          // those still to come, in order
     std::optional<int> exitCode_;
+    int beeps_ = 0;
     int yields_ = 0;
     std::function<void()> onPaintWindows_;
 };

@@ -26,11 +26,12 @@ class BoundFields final : public QObject {
     explicit BoundFields(Recordset& rows);
     ~BoundFields() override;
 
-    void bind(TextBox& box, const QString& field);
-    void bind(MultiLineTextBox& box, const QString& field);
-    void bind(QCheckBox& box, const QString& field);
-    void bind(DatePicker& picker, const QString& field);
-    void bind(QLabel& label, const QString& field);  // only shows
+    // Each binds a control to the field of this name.
+    void bind(TextBox& box, const QString& name);
+    void bind(MultiLineTextBox& box, const QString& name);
+    void bind(QCheckBox& box, const QString& name);
+    void bind(DatePicker& picker, const QString& name);
+    void bind(QLabel& label, const QString& name);  // only shows
 
     void show();
 

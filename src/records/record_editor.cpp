@@ -148,7 +148,7 @@ void RecordEditor::cmdEdit_Click() {
     });
 }
 
-// The batch would be content without a current row; the user who looks at one is not.
+// A batch needs no current row, but the update that the user asks for is that of one.
 void RecordEditor::cmdUpdate_Click() {
     trapped(this, [this] {
         adoPrimaryRS_->Edit();

@@ -1,4 +1,4 @@
-// The plain reading of floors.h.
+// The plain reading and writing of floors.h.
 #include "bench/floors.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -57,4 +57,16 @@ std::vector<double> plainBirthdates(const QString& database) {
     while (rows.executeStep())
         birthdates.push_back(rows.getColumn(0).getDouble());
     return birthdates;
+}
+
+PlainWriter::PlainWriter(const QString& database)
+    : file_(database.toStdString(), SQLite::OPEN_READWRITE) {
+    file_.exec("PRAGMA synchronous = FULL");
+}
+
+void PlainWriter::setFirstName(Long nameId, const std::string& firstName) {
+    SQLite::Statement row(file_, "UPDATE Data SET FName = ? WHERE NameID = ?");
+    row.bind(1, firstName);
+    row.bind(2, nameId);
+    row.exec();
 }

@@ -1,7 +1,10 @@
-// The floors: the same data got in the plainest way there is, to measure the program's own against.
+// The floors: the same data got and written in the plainest way there is, to measure the program's
+// own against.
 //
-// Each opens the file itself and reads through SQLite, without record sets, events and widgets.
+// Each opens the file itself and works through SQLite, without record sets, events and widgets.
 #pragma once
+
+#include <SQLiteCpp/Database.h>
 
 #include <QString>
 #include <string>
@@ -28,3 +31,14 @@ double plainBirthdate(const QString& database, Long nameId);
 
 // The birth dates of all people, as days since 30 December 1899.
 std::vector<double> plainBirthdates(const QString& database);
+
+// Writes people by their keys, durably.
+class PlainWriter {
+  public:
+    explicit PlainWriter(const QString& database);
+
+    void setFirstName(Long nameId, const std::string& firstName);
+
+  private:
+    SQLite::Database file_;
+};

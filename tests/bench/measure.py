@@ -31,6 +31,8 @@ LISTED_AIM = {100_000: 120}
 CLICKED_AIM = {people: 8 for people in PEOPLE}
 BIRTHDAY_AIM = {people: 30 for people in PEOPLE}
 CARD_AIM = {people: 8 for people in PEOPLE}
+STEP_AIM = {people: 2 for people in PEOPLE}
+UPDATE_AIM = {people: 50 for people in PEOPLE}
 
 # A routine may grow by this much more than n log n from 1,000 people to 100,000: the processor's
 # caches hold the former and not the latter.
@@ -49,6 +51,10 @@ ROUTINES = [
     ('name clicked to chart painted', 'clickName', CLICKED_AIM),
     ('day picked to birthdays painted', 'pickBirthday', BIRTHDAY_AIM),
     ('person\'s card opened to painted', 'openCard', CARD_AIM),
+    ('person manager opened to painted', 'openManager', {}),
+    ('stepped to the next person', 'stepPerson', STEP_AIM),
+    ('letter found and painted', 'findLetter', {}),
+    ('person updated and painted', 'updatePerson', UPDATE_AIM),
 ]
 FAVOURITES = [
     ('favourites listed', 'fillFavouritesMenu'),

@@ -26,7 +26,7 @@ class FullDisk {
     Q_DISABLE_COPY_MOVE(FullDisk)
 
   private:
-    static int fill(sqlite3* database, const char**, const void*) {
+    static int fill(sqlite3* database, const char**, const sqlite3_api_routines*) {
         // Clamped to the present size.
         return sqlite3_exec(database, "PRAGMA max_page_count = 1", nullptr, nullptr, nullptr);
     }
@@ -199,10 +199,10 @@ TEST_F(PersonManagerThatFails, SaysThatTheDiskIsFull) {
     const FullDisk full;
     open();
     press("cmdEdit");
-    const QString long_text(100'000, u'x');
-    in<MultiLineTextBox>("txtFields_5").setText(long_text);
+    const QString longText(100'000, u'x');
+    in<MultiLineTextBox>("txtFields_5").setText(longText);
     expectFailure(in(QStringLiteral("Disk full: database or disk is full")));
-    EXPECT_EQ(in<MultiLineTextBox>("txtFields_5").Text(), long_text);
+    EXPECT_EQ(in<MultiLineTextBox>("txtFields_5").Text(), longText);
     EXPECT_TRUE(stored("SELECT Notes FROM Data WHERE Name = 'Adler'").isNull());
     expectStoredAsBefore();
 }

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr qint64 kLargestFile = 1024 * 1024;  // bytes; larger ones keep the user waiting
+constexpr qint64 kLargestFile = qint64{1024} * 1024;  // bytes; larger ones keep the user waiting
 
 QString decoded(const QByteArray& html) {
     return QStringDecoder::decoderForHtml(html).decode(html);

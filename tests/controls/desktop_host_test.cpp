@@ -21,12 +21,15 @@ class DesktopHostTest : public testing::Test {
     // Shows a box, looks at it with `look`, and answers it with a button.
     template <class Look>
     Answer answered(const Message& message, QMessageBox::StandardButton button, Look look) {
-        QTimer::singleShot(0, [&] {
+        QTimer shown;
+        shown.setSingleShot(true);
+        QObject::connect(&shown, &QTimer::timeout, &shown, [&] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             ASSERT_NE(box, nullptr);
             look(*box);
             box->done(button);
         });
+        shown.start(0);
         return host_.showMessage(message);
     }
 
@@ -79,10 +82,11 @@ TEST_F(DesktopHostTest, WaitsOverTheWindowOfItsOwner) {
 }
 
 TEST_F(DesktopHostTest, YieldsToWaitingEvents) {
-    bool happened = false;
-    QTimer::singleShot(0, [&] { happened = true; });
+    QTimer waiting;
+    waiting.setSingleShot(true);
+    waiting.start(0);
     host_.yield();
-    EXPECT_TRUE(happened);
+    EXPECT_FALSE(waiting.isActive());
 }
 
 // A widget that is not shown on the screen stands for a window that the window system is slow with.
@@ -90,11 +94,14 @@ TEST_F(DesktopHostTest, WaitsForAWindowThatAppearsLate) {
     QWidget window;
     window.setAttribute(Qt::WA_DontShowOnScreen);
     window.show();
-    QTimer::singleShot(10, [&] {
+    QTimer late;
+    late.setSingleShot(true);
+    QObject::connect(&late, &QTimer::timeout, &window, [&] {
         window.hide();
         window.setAttribute(Qt::WA_DontShowOnScreen, false);
         window.show();
     });
+    late.start(10);
     host_.paintWindows();
     EXPECT_TRUE(window.windowHandle()->isExposed());
 }

@@ -121,12 +121,14 @@ class AProgram : public testing::Test {
         QEventLoop change;
         QObject::connect(&watcher, &QFileSystemWatcher::directoryChanged, &change,
                          &QEventLoop::quit);
-        QTimer::singleShot(std::chrono::seconds(30), &change, [&] { change.exit(1); });
-        while (!QFile::exists(program_ + QStringLiteral(".started"))) {
-            if (change.exec() != 0)
-                return false;
-        }
-        return true;
+        QTimer patience;
+        patience.setSingleShot(true);
+        QObject::connect(&patience, &QTimer::timeout, &change, &QEventLoop::quit);
+        patience.start(std::chrono::seconds(30));
+        const QString file = program_ + QStringLiteral(".started");
+        while (!QFile::exists(file) && patience.isActive())
+            change.exec();
+        return QFile::exists(file);
     }
 
     QTemporaryDir folder_;

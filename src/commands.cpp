@@ -8,7 +8,9 @@
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
 #include "controls/picture_button.h"
+#include "records/frmAdd.h"
 #include "records/frmAddNew.h"
+#include "records/frmCategory.h"
 #include "records/frmZoom.h"
 #include "runtime/event.h"
 #include "runtime/host.h"
@@ -16,6 +18,7 @@
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
 #include "shell/frmManageFaves.h"
+#include "shell/frmWait.h"
 #include "shell/handover.h"
 
 namespace {
@@ -32,6 +35,8 @@ Commands::Commands(frmMain& window) : window_(window) {
     };
     onCommand("mnuAddNew", &Commands::mnuAddNew_Click);
     onCommand("mnuBToday", &Commands::mnuBToday_Click);
+    onCommand("mnuFileAdd", &Commands::mnuFileAdd_Click);
+    onCommand("mnuFileCat", &Commands::mnuFileCat_Click);
     onCommand("mnuFind", &Commands::mnuFind_Click);
     onCommand("mnuHelpAbout", &Commands::mnuHelpAbout_Click);
     onCommand("mnuHelpContents", &Commands::mnuHelpContents_Click);
@@ -43,6 +48,13 @@ Commands::Commands(frmMain& window) : window_(window) {
     onEvent(mainControls().lstMain, &ListBox::DblClick, this, &Commands::lstMain_DblClick);
     onEvent(mainControls().mnuFaves, &ButtonMenu::ButtonMenuClick, this,
             &Commands::tlbMain_ButtonMenuClick);
+}
+
+// The wait window stands in for a slow form; the form unloads it when it has been loaded.
+template <class F>
+void Commands::openSlowForm() {
+    showWaitWindow();
+    F(&window_).ShowModal();
 }
 
 bool Commands::isPersonChosen(const QString& request) {
@@ -86,6 +98,14 @@ void Commands::mnuAddNew_Click() {
 
 void Commands::mnuBToday_Click() {
     frmBirthdayToday(&window_).ShowModal();
+}
+
+void Commands::mnuFileAdd_Click() {
+    openSlowForm<frmAdd>();
+}
+
+void Commands::mnuFileCat_Click() {
+    openSlowForm<frmCategory>();
 }
 
 void Commands::mnuHelpAbout_Click() {

@@ -20,6 +20,8 @@ class Commands final : public QObject {
     void lstMain_DblClick();
     void mnuAddNew_Click();
     void mnuBToday_Click();
+    void mnuFileAdd_Click();
+    void mnuFileCat_Click();
     void mnuFind_Click();
     void mnuHelpAbout_Click();
     void mnuHelpContents_Click();
@@ -27,6 +29,9 @@ class Commands final : public QObject {
     void mnuQuickMatch_Click();
     void mnuReport_Click();
     void tlbMain_ButtonMenuClick(int index);
+
+    template <class F>
+    void openSlowForm();
 
     // Whether there is a person; without one the user gets the request.
     bool isPersonChosen(const QString& request);

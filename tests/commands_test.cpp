@@ -15,7 +15,9 @@
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
 #include "controls/picture_button.h"
+#include "records/frmAdd.h"
 #include "records/frmAddNew.h"
+#include "records/frmCategory.h"
 #include "records/frmZoom.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
@@ -111,6 +113,8 @@ TEST_F(CommandsTest, OpenTheFormsThatNeedNobodyWithoutAPerson) {
     expectForm<frmAddNew>("mnuAddNew");
     expectForm<frmBirthdayToday>("mnuBToday");
     expectForm<frmAbout>("mnuHelpAbout");
+    expectForm<frmAdd>("mnuFileAdd");
+    expectForm<frmCategory>("mnuFileCat");
 }
 
 TEST_F(CommandsTest, ShowTheHelpFileByItsNameAlone) {

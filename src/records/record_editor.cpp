@@ -19,16 +19,16 @@ RecordEditor::~RecordEditor() = default;
 void RecordEditor::useBar(RecordBar& bar) {
     bar_ = &bar;
     const Ui::RecordBar& ui = bar.controls();
-    onEvent(ui.cmdAdd, &QPushButton::clicked, this, &RecordEditor::cmdAdd_Click);
-    onEvent(ui.cmdCancel, &QPushButton::clicked, this, &RecordEditor::cmdCancel_Click);
-    onEvent(ui.cmdClose, &QPushButton::clicked, this, &RecordEditor::cmdClose_Click);
-    onEvent(ui.cmdDelete, &QPushButton::clicked, this, &RecordEditor::cmdDelete_Click);
-    onEvent(ui.cmdEdit, &QPushButton::clicked, this, &RecordEditor::cmdEdit_Click);
+    onEvent(ui.cmdAdd, &PictureButton::Click, this, &RecordEditor::cmdAdd_Click);
+    onEvent(ui.cmdCancel, &PictureButton::Click, this, &RecordEditor::cmdCancel_Click);
+    onEvent(ui.cmdClose, &PictureButton::Click, this, &RecordEditor::cmdClose_Click);
+    onEvent(ui.cmdDelete, &PictureButton::Click, this, &RecordEditor::cmdDelete_Click);
+    onEvent(ui.cmdEdit, &PictureButton::Click, this, &RecordEditor::cmdEdit_Click);
     onEvent(ui.cmdFirst, &PictureButton::Click, this, &RecordEditor::cmdFirst_Click);
     onEvent(ui.cmdLast, &PictureButton::Click, this, &RecordEditor::cmdLast_Click);
     onEvent(ui.cmdNext, &PictureButton::Click, this, &RecordEditor::cmdNext_Click);
     onEvent(ui.cmdPrevious, &PictureButton::Click, this, &RecordEditor::cmdPrevious_Click);
-    onEvent(ui.cmdUpdate, &QPushButton::clicked, this, &RecordEditor::cmdUpdate_Click);
+    onEvent(ui.cmdUpdate, &PictureButton::Click, this, &RecordEditor::cmdUpdate_Click);
 }
 
 void RecordEditor::openRecords(const QString& statement) {

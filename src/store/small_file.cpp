@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr qint64 kLargestFile = qint64{64} * 1024 * 1024;  // bytes; a million records take half of it
+constexpr qint64 kLargestFile = qint64{64} * 1024 * 1024;  // bytes; half holds a million records
 
 bool isInFileName(QChar character) {
     return character >= u' ' && !QStringLiteral("\\/:*?\"<>|").contains(character);

@@ -1,13 +1,14 @@
 // What holds for every form, for those of people and categories.
 #include "records/dlgBZoom.h"
 #include "records/frmAddNew.h"
+#include "records/frmExplore.h"
 #include "records/frmZoom.h"
 #include "support/every_form.h"
 
 namespace {
 
 using Forms = testing::Types<Drawn<dlgBZoom, OnEscape::Stays>, Drawn<frmAddNew, OnEscape::Stays>,
-                             Drawn<frmZoom, OnEscape::Closes>>;
+                             Drawn<frmExplore, OnEscape::Closes>, Drawn<frmZoom, OnEscape::Closes>>;
 INSTANTIATE_TYPED_TEST_SUITE_P(Records, EveryForm, Forms);
 
 }  // namespace

@@ -85,6 +85,7 @@ void Grid::showCells() {
 
 void Grid::showWidths() {
     std::vector<int> twips;
+    twips.reserve(static_cast<std::size_t>(cells().Cols()));
     for (int column = 0; column < cells().Cols(); ++column)
         twips.push_back(cells().ColWidth(column));
     const std::vector<int> widths = columnWidths(twips, viewport()->width());
@@ -158,8 +159,12 @@ bool Grid::eventFilter(QObject* watched, QEvent* event) {
     }
 }
 
+// A press on the cell that is current already is no change of it, but takes a selection of code
+// back to it.
 void Grid::mousePressEvent(QMouseEvent* event) {
     QTableView::mousePressEvent(event);
+    if (const QModelIndex pressed = indexAt(event->pos()); pressed.isValid())
+        model_.select(pressed);
     tellPress(*event);
 }
 

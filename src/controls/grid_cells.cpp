@@ -99,8 +99,9 @@ void GridCells::setCellFontBold(bool bold) {
 
 void GridCells::Sort() {
     const auto [left, right] = std::minmax({col_, colSel_});
-    const auto textOf = [&, first = left](int row, int place) -> QStringView {
-        const Column& column = columns_[static_cast<std::size_t>(first + place)];
+    const auto textOf = [&, first = static_cast<std::size_t>(left)](int row,
+                                                                    int place) -> QStringView {
+        const Column& column = columns_[first + static_cast<std::size_t>(place)];
         return texts_[static_cast<std::size_t>(row) * columns_.size() + column.stored];
     };
     if (Rows() > fixedRows_)

@@ -17,4 +17,5 @@ std::weak_ordering compareGenerically(QStringView a, QStringView b);
 using SortText = std::function<QStringView(int row, int place)>;
 
 // Puts rows in ascending order by that many texts. Rows of which all are equal keep their order.
+// The rows' numbers are to be small, as it takes time and memory for each up to the largest.
 void sortGenerically(std::span<int> rows, int texts, const SortText& textOf);

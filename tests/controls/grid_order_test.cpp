@@ -88,6 +88,16 @@ TEST(SortGenerically, KeepsTheOrderOfRowsThatAreEqual) {
     EXPECT_EQ(sorted({list({"1", "b"}), list({"1.0", "a"})}), std::vector({1, 0}));
 }
 
+TEST(SortGenerically, KeepsTheOrderOfManyRowsThatAreEqual) {
+    std::vector<QStringList> rows(1000, QStringList(QStringLiteral("a")));
+    for (std::size_t row = 0; row < rows.size(); row += 3)
+        rows[row] = {QStringLiteral("b")};
+    const std::vector<int> order = sorted(rows);
+    const auto firstB = std::find(order.begin(), order.end(), 0);
+    EXPECT_TRUE(std::is_sorted(order.begin(), firstB));
+    EXPECT_TRUE(std::is_sorted(firstB, order.end()));
+}
+
 TEST(SortGenerically, LeavesNoRowsAndOneRowAlone) {
     EXPECT_EQ(sorted({}), std::vector<int>());
     EXPECT_EQ(sorted({list({"a"})}), std::vector({0}));
@@ -122,9 +132,10 @@ RC_GTEST_PROP(GenericOrder, IsAnOrder, ()) {
 RC_GTEST_PROP(SortGenerically, SortsAsAStableSortByTheWholeRowsWould, ()) {
     const auto pairs = *rc::gen::container<std::vector<std::pair<QString, QString>>>(
         rc::gen::pair(anyText(), anyText()));
-    std::vector<QStringList> rows;
-    for (const auto& [first, second] : pairs)
-        rows.push_back({first, second});
+    std::vector<QStringList> rows(pairs.size());
+    std::transform(pairs.begin(), pairs.end(), rows.begin(), [](const auto& pair) {
+        return QStringList({pair.first, pair.second});
+    });
     std::vector<int> expected(rows.size());
     std::iota(expected.begin(), expected.end(), 0);
     std::stable_sort(expected.begin(), expected.end(), [&](int a, int b) {

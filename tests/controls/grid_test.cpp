@@ -143,6 +143,17 @@ TEST_F(GridTest, KeepsWhatCodeHasSelectedUntilTheUserActs) {
     EXPECT_EQ(grid_.cells().RowSel(), 3);
 }
 
+TEST_F(GridTest, TakesASelectionOfCodeBackToTheCellThatIsClicked) {
+    grid_.change([](GridCells& cells) {
+        cells.setCol(3);
+        cells.setRow(1);
+        cells.setRowSel(3);
+    });
+    click(cellView(), inCell(0, 0));
+    EXPECT_EQ(grid_.cells().RowSel(), 1);
+    EXPECT_EQ(grid_.cells().Col(), 0);
+}
+
 TEST_F(GridTest, HasACurrentRowForScreenReadersAsLongAsThereAreRows) {
     EXPECT_EQ(grid_.currentIndex().row(), 0);
     grid_.change([](GridCells& cells) { cells.setRow(0); });

@@ -2,7 +2,7 @@
 #include "records/explorer_cells.h"
 
 #include <array>
-#include <unordered_map>
+#include <utility>
 
 #include "records/column_drag.h"
 #include "runtime/errors.h"
@@ -33,21 +33,14 @@ QString booleanText(const Value& value) {
     return value.toBoolean() ? QStringLiteral("True") : QStringLiteral("False");
 }
 
-void appendPerson(std::vector<QString>& texts, const Recordset& person) {
+void appendPerson(std::vector<QString>& texts, const Recordset& person,
+                  CategoryLookup& categories) {
     texts.push_back(textOrNothing(person.Fields(kFields[kName])));
     texts.push_back(textOrNothing(person.Fields(kFields[kFirstName])));
-    texts.emplace_back();
-    texts.push_back(booleanText(person.Fields(kFields[kGender])));
-    texts.push_back(numberText(person.Fields(kFields[kCategory]).toLong()));
+    texts.push_back(birthdateText(person.Fields(kFields[kBirthdate]).toDate()));
+    texts.push_back(genderWord(booleanText(person.Fields(kFields[kGender]))));
+    texts.push_back(categories.nameOf(person.Fields(kFields[kCategory]).toLong()));
     texts.push_back(numberText(person.Fields(kFields[kNameId]).toLong()));
-}
-
-// The first entry of each category.
-std::unordered_map<Long, int> firstEntries(const std::vector<ListEntry>& categories) {
-    std::unordered_map<Long, int> entries;
-    for (std::size_t entry = 0; entry < categories.size(); ++entry)
-        entries.try_emplace(categories[entry].itemData, static_cast<int>(entry));
-    return entries;
 }
 
 void selectRows(GridCells& cells, int first, int last) {
@@ -57,13 +50,38 @@ void selectRows(GridCells& cells, int first, int last) {
 
 }  // namespace
 
-void bindPeople(GridCells& cells, Recordset& people) {
+CategoryLookup::CategoryLookup(std::vector<ListEntry> entries) : entries_(std::move(entries)) {
+    for (std::size_t entry = 0; entry < entries_.size(); ++entry)
+        firstEntries_.try_emplace(entries_[entry].itemData, static_cast<int>(entry));
+}
+
+QString CategoryLookup::nameOf(Long catId) {
+    const auto found = firstEntries_.find(catId);
+    if (found == firstEntries_.end()) {
+        lastEntry_ = static_cast<int>(entries_.size()) - 1;
+        return numberText(catId);
+    }
+    lastEntry_ = found->second;
+    return entries_[static_cast<std::size_t>(lastEntry_)].text;
+}
+
+QString birthdateText(Date birthdate) {
+    return Format(birthdate, QStringLiteral("MMM d, yyyy"));
+}
+
+QString genderWord(const QString& gender) {
+    if (gender == QStringLiteral("True"))
+        return QStringLiteral("Female");
+    return gender == QStringLiteral("False") ? QStringLiteral("Male") : gender;
+}
+
+void bindPeople(GridCells& cells, Recordset& people, CategoryLookup& categories) {
     std::vector<QString> texts;
     texts.reserve(kFields.size() * (static_cast<std::size_t>(people.RecordCount()) + 1));
     for (const QStringView field : kFields)
         texts.push_back(field.toString());
-    for (; !people.EndOfFile(); people.MoveNext())
-        appendPerson(texts, people);
+    for (people.MoveFirst(); !people.EndOfFile(); people.MoveNext())
+        appendPerson(texts, people, categories);
     cells.bind(static_cast<int>(kFields.size()), std::move(texts));
 }
 
@@ -74,43 +92,6 @@ void setUpColumns(GridCells& cells) {
     cells.setColWidth(kNameId, 0);
     cells.setTextMatrix(0, kFirstName, QStringLiteral("Firstname"));
     cells.setTextMatrix(0, kCategory, QStringLiteral("Category"));
-}
-
-void showBirthdates(GridCells& cells, Recordset& people) {
-    people.MoveFirst();
-    for (int row = cells.FixedRows(); row < cells.Rows(); ++row) {
-        cells.setTextMatrix(row, kBirthdate, birthdateText(people.Fields(u"birthdate").toDate()));
-        people.MoveNext();
-    }
-}
-
-QString birthdateText(Date birthdate) {
-    return Format(birthdate, QStringLiteral("MMM d, yyyy"));
-}
-
-void showGenders(GridCells& cells) {
-    for (int row = cells.FixedRows(); row < cells.Rows(); ++row)
-        cells.setTextMatrix(row, kGender, genderWord(cells.TextMatrix(row, kGender)));
-}
-
-QString genderWord(const QString& gender) {
-    if (gender == QStringLiteral("True"))
-        return QStringLiteral("Female");
-    return gender == QStringLiteral("False") ? QStringLiteral("Male") : gender;
-}
-
-int showCategories(GridCells& cells, const std::vector<ListEntry>& categories) {
-    const auto entries = firstEntries(categories);
-    const int last = static_cast<int>(categories.size()) - 1;
-    int lookedAt = -1;
-    for (int row = cells.FixedRows(); row < cells.Rows(); ++row) {
-        const auto found = entries.find(numberOfCell(cells.TextMatrix(row, kCategory)));
-        lookedAt = found == entries.end() ? last : found->second;
-        if (found != entries.end())
-            cells.setTextMatrix(row, kCategory,
-                                categories[static_cast<std::size_t>(lookedAt)].text);
-    }
-    return lookedAt;
 }
 
 void makeHeaderBold(GridCells& cells) {

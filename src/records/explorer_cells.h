@@ -1,10 +1,11 @@
 // What the explorer writes into its grid: everybody in rows, and the codes of the table in words.
 //
-// The columns are Name, FName, Birthdate, Gender, CatID and NameID, in this order as long as none
-// has been moved. Each function that shows a column expects them so.
+// The columns are Name, FName, Birthdate, Gender, CatID and NameID, in this order until one is
+// moved.
 #pragma once
 
 #include <QString>
+#include <unordered_map>
 #include <vector>
 
 #include "controls/grid_cells.h"
@@ -13,27 +14,37 @@
 
 class Recordset;
 
-// The cells of all people, as the store has them, below the names of the fields. A birth date is
-// left out, as showBirthdates writes it.
-void bindPeople(GridCells& cells, Recordset& people);
+// The names of categories by number, found as a walk down a list would find them: of several
+// entries with a number the first.
+class CategoryLookup {
+  public:
+    explicit CategoryLookup(std::vector<ListEntry> entries);
 
-// The widths of the columns, and those headers that are not the names of their fields.
-void setUpColumns(GridCells& cells);
+    // The name; the number itself as text where there is no such entry.
+    QString nameOf(Long catId);
 
-// Writes the birth dates; rows and people are in step. Raises 3021 if there is nobody.
-void showBirthdates(GridCells& cells, Recordset& people);
+    // The entry on which the last walk ended: the one that it found or, in vain, the last of all.
+    // -1 if there are no entries or was no walk.
+    int lastEntry() const { return lastEntry_; }
+
+  private:
+    std::vector<ListEntry> entries_;
+    std::unordered_map<Long, int> firstEntries_;
+    int lastEntry_ = -1;
+};
 
 // "Apr 1, 2000"
 QString birthdateText(Date birthdate);
 
 // "Female" for the text "True" and "Male" for "False"; any other stays.
-void showGenders(GridCells& cells);
 QString genderWord(const QString& gender);
 
-// Puts the name of a category in place of its number, where there is such an entry; of several the
-// first counts. Returns the entry that was looked at last, as if each row walked from the first
-// entry to its own, or to the last one in vain; -1 if there is no entry.
-int showCategories(GridCells& cells, const std::vector<ListEntry>& categories);
+// Everybody, a row each in the order of the set, below the names of the fields. Raises 3021 if
+// there is nobody.
+void bindPeople(GridCells& cells, Recordset& people, CategoryLookup& categories);
+
+// The widths of the columns, and those headers that are not the names of their fields.
+void setUpColumns(GridCells& cells);
 
 // Makes the header bold.
 void makeHeaderBold(GridCells& cells);

@@ -63,20 +63,17 @@ void frmExplore::openRecordSets() {
     categories_.emplace(*connection_, statements::categories(), adLockReadOnly);
 }
 
-// The sort comes before the bands are there, and DoSort after them; looks go with their rows, so
-// they stay columns.
 void frmExplore::fillGrid() {
-    ui_->MSHFlexGrid1->change([this](GridCells& cells) {
-        bindPeople(cells, *people_);
+    addCategories();
+    CategoryLookup categories(lookup());
+    ui_->MSHFlexGrid1->change([&](GridCells& cells) {
+        bindPeople(cells, *people_, categories);
         setUpColumns(cells);
-        showBirthdates(cells, *people_);
-        showGenders(cells);
-        addCategories();
-        ui_->lstCat->setListIndex(showCategories(cells, lookup()));
         cells.Sort();
         makeHeaderBold(cells);
         paintBands(cells);
     });
+    ui_->lstCat->setListIndex(categories.lastEntry());
 }
 
 // The list is not cleared first: a Refresh adds every category again, behind those that are there.
@@ -89,6 +86,7 @@ void frmExplore::addCategories() {
 
 std::vector<ListEntry> frmExplore::lookup() const {
     std::vector<ListEntry> entries;
+    entries.reserve(static_cast<std::size_t>(ui_->lstCat->ListCount()));
     for (int entry = 0; entry < ui_->lstCat->ListCount(); ++entry)
         entries.push_back({ui_->lstCat->List(entry), ui_->lstCat->ItemData(entry)});
     return entries;

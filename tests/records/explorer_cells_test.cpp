@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QStringList>
+#include <array>
 
 #include "cycles/calendar.h"
 #include "store/databases.h"
@@ -32,12 +33,10 @@ class ExplorerCells : public testing::Test {
         addPerson(directory_.people(), row);
     }
 
-    void bind() { bindPeople(cells_, people()); }
-
-    Recordset& people() {
-        if (!people_)
-            people_.emplace(connection_, statements::allPeople(), adLockReadOnly);
-        return *people_;
+    void bind() {
+        Connection connection = openPersonDatabase();
+        Recordset people(connection, statements::allPeople(), adLockReadOnly);
+        bindPeople(cells_, people, categories_);
     }
 
     // The texts of a row, divided by bars.
@@ -48,15 +47,7 @@ class ExplorerCells : public testing::Test {
         return texts.join(u'|');
     }
 
-    // Rows with these texts in the column of categories.
-    void bindCatIds(std::initializer_list<const char*> catIds) {
-        std::vector<QString> texts(6);
-        for (const char* catId : catIds) {
-            texts.resize(texts.size() + 6);
-            texts[texts.size() - 2] = QString::fromLatin1(catId);
-        }
-        cells_.bind(6, std::move(texts));
-    }
+    void bindTwoEmptyRows() { cells_.bind(6, std::vector<QString>(18)); }
 
     // Which of the columns have this background, in the header and below it.
     QString columnsOf(Long colour) const {
@@ -72,24 +63,27 @@ class ExplorerCells : public testing::Test {
     RecordingHost host_;
     ProgramDirectory directory_{host_};
     GridCells cells_;
-    Connection connection_ = openPersonDatabase();
-    std::optional<Recordset> people_;
+    CategoryLookup categories_{{{QStringLiteral("Family"), 1}}};
 };
 
-const std::vector<ListEntry> kCategories{{QStringLiteral("Family"), 7},
-                                         {QStringLiteral("Friends"), 3},
-                                         {QStringLiteral("Old friends"), 3}};
+CategoryLookup lookup() {
+    return CategoryLookup({{QStringLiteral("Family"), 7},
+                           {QStringLiteral("Friends"), 3},
+                           {QStringLiteral("Old friends"), 3}});
+}
 
 }  // namespace
 
 TEST_F(ExplorerCells, AreThePeopleInOrderOfNameBelowTheFields) {
-    add("Smith", {.firstName = QStringLiteral("Anna"), .isFemale = true});
-    add("adler", {.firstName = QStringLiteral("Ben")});
+    add("Smith", {.firstName = QStringLiteral("Anna"),
+                  .birthdate = Value(DateSerial(1972, 10, 20)),
+                  .isFemale = true});
+    add("adler", {.firstName = QStringLiteral("Ben"), .birthdate = Value(DateSerial(2000, 4, 1))});
     bind();
     ASSERT_EQ(cells_.Rows(), 3);
     EXPECT_EQ(row(0), QStringLiteral("Name|FName|Birthdate|Gender|CatID|NameID"));
-    EXPECT_EQ(row(1), QStringLiteral("adler|Ben||False|1|2"));
-    EXPECT_EQ(row(2), QStringLiteral("Smith|Anna||True|1|1"));
+    EXPECT_EQ(row(1), QStringLiteral("adler|Ben|Apr 1, 2000|Male|Family|2"));
+    EXPECT_EQ(row(2), QStringLiteral("Smith|Anna|Oct 20, 1972|Female|Family|1"));
 }
 
 TEST_F(ExplorerCells, ShowNoFirstNameForNull) {
@@ -98,63 +92,57 @@ TEST_F(ExplorerCells, ShowNoFirstNameForNull) {
     EXPECT_EQ(cells_.TextMatrix(1, 1), QString());
 }
 
+TEST_F(ExplorerCells, KeepTheNumberOfACategoryThatIsNotThere) {
+    directory_.dropConstraints();
+    add("Smith", {.catId = 99});
+    bind();
+    EXPECT_EQ(cells_.TextMatrix(1, 4), QStringLiteral("99"));
+}
+
+TEST_F(ExplorerCells, RaiseAnErrorForADateOfBirthThatIsNull) {
+    directory_.dropConstraints();
+    add("Smith", {.birthdate = Value()});
+    EXPECT_EQ(errorOf([this] { bind(); }), 94);
+}
+
+TEST_F(ExplorerCells, RaiseAnErrorWhereThereIsNobody) {
+    EXPECT_EQ(errorOf([this] { bind(); }), 3021);
+}
+
 TEST_F(ExplorerCells, HaveTheWidthsAndHeadersOfTheirColumns) {
     add("Smith");
     bind();
     setUpColumns(cells_);
     EXPECT_EQ(row(0), QStringLiteral("Name|Firstname|Birthdate|Gender|Category|NameID"));
-    std::vector<int> widths;
-    for (int column = 0; column < cells_.Cols(); ++column)
-        widths.push_back(cells_.ColWidth(column));
     constexpr int kDefault = GridCells::kDefaultColWidth;
-    EXPECT_EQ(widths, std::vector({1725, kDefault, 1200, kDefault, 1200, 0}));
+    constexpr std::array kWidths{1725, kDefault, 1200, kDefault, 1200, 0};
+    for (int column = 0; column < cells_.Cols(); ++column)
+        EXPECT_EQ(cells_.ColWidth(column), kWidths.at(static_cast<std::size_t>(column))) << column;
 }
 
-TEST_F(ExplorerCells, ShowEachBirthDateInTheRowOfItsPerson) {
-    add("Zed", {.birthdate = Value(DateSerial(1985, 1, 31))});
-    add("Adler", {.birthdate = Value(DateSerial(2000, 4, 1))});
-    bind();
-    showBirthdates(cells_, people());
-    EXPECT_EQ(cells_.TextMatrix(1, 2), QStringLiteral("Apr 1, 2000"));
-    EXPECT_EQ(cells_.TextMatrix(2, 2), QStringLiteral("Jan 31, 1985"));
+TEST(CategoryLookup, FindsTheFirstEntryOfANumber) {
+    CategoryLookup categories = lookup();
+    EXPECT_EQ(categories.nameOf(7), QStringLiteral("Family"));
+    EXPECT_EQ(categories.lastEntry(), 0);
+    EXPECT_EQ(categories.nameOf(3), QStringLiteral("Friends"));
+    EXPECT_EQ(categories.lastEntry(), 1);
 }
 
-TEST_F(ExplorerCells, RaiseAnErrorWhereThereIsNobody) {
-    bind();
-    EXPECT_EQ(cells_.Rows(), 1);
-    EXPECT_EQ(errorOf([this] { showBirthdates(cells_, people()); }), 3021);
+TEST(CategoryLookup, KeepsTheNumberThatNoEntryHasAndEndsOnTheLastEntry) {
+    CategoryLookup categories = lookup();
+    EXPECT_EQ(categories.nameOf(99), QStringLiteral("99"));
+    EXPECT_EQ(categories.lastEntry(), 2);
 }
 
-TEST_F(ExplorerCells, ShowGendersInWords) {
-    add("Adler");
-    add("Smith", {.isFemale = true});
-    bind();
-    showGenders(cells_);
-    EXPECT_EQ(cells_.TextMatrix(0, 3), QStringLiteral("Gender"));
-    EXPECT_EQ(cells_.TextMatrix(1, 3), QStringLiteral("Male"));
-    EXPECT_EQ(cells_.TextMatrix(2, 3), QStringLiteral("Female"));
-}
-
-TEST_F(ExplorerCells, ShowTheCategoryThatIsFoundFirst) {
-    bindCatIds({"3", "7", "3"});
-    EXPECT_EQ(showCategories(cells_, kCategories), 1);
-    EXPECT_EQ(cells_.TextMatrix(1, 4), QStringLiteral("Friends"));
-    EXPECT_EQ(cells_.TextMatrix(2, 4), QStringLiteral("Family"));
-    EXPECT_EQ(cells_.TextMatrix(3, 4), QStringLiteral("Friends"));
-}
-
-TEST_F(ExplorerCells, KeepTheNumberOfACategoryThatIsNotThere) {
-    bindCatIds({"7", "99"});
-    EXPECT_EQ(showCategories(cells_, kCategories), 2);
-    EXPECT_EQ(cells_.TextMatrix(1, 4), QStringLiteral("Family"));
-    EXPECT_EQ(cells_.TextMatrix(2, 4), QStringLiteral("99"));
-    bindCatIds({"7"});
-    EXPECT_EQ(showCategories(cells_, {}), -1);
-    EXPECT_EQ(cells_.TextMatrix(1, 4), QStringLiteral("7"));
+TEST(CategoryLookup, HasNoLastEntryBeforeAWalkAndWithoutEntries) {
+    EXPECT_EQ(lookup().lastEntry(), -1);
+    CategoryLookup none({});
+    EXPECT_EQ(none.nameOf(7), QStringLiteral("7"));
+    EXPECT_EQ(none.lastEntry(), -1);
 }
 
 TEST_F(ExplorerCells, HaveABoldHeader) {
-    bindCatIds({"7", "3"});
+    bindTwoEmptyRows();
     makeHeaderBold(cells_);
     for (int column = 0; column < cells_.Cols(); ++column) {
         EXPECT_TRUE(cells_.look(0, column).isBold) << column;
@@ -163,14 +151,14 @@ TEST_F(ExplorerCells, HaveABoldHeader) {
 }
 
 TEST_F(ExplorerCells, StandOnGreyInEverySecondColumnFromTheFirstOn) {
-    bindCatIds({"7", "3"});
+    bindTwoEmptyRows();
     paintBands(cells_);
     EXPECT_EQ(columnsOf(kGrey), QStringLiteral("-xx --- -xx --- -xx ---"));
     EXPECT_EQ(columnsOf(kWhite), QStringLiteral("--- --- --- --- --- ---"));
 }
 
 TEST_F(ExplorerCells, StandOnGreyInTheSamePlacesWhenColumnsHaveBeenMoved) {
-    bindCatIds({"7", "3"});
+    bindTwoEmptyRows();
     paintBands(cells_);
     cells_.setColPosition(2, 1);
     EXPECT_EQ(columnsOf(kGrey), QStringLiteral("-xx -xx --- --- -xx ---"));
@@ -180,7 +168,7 @@ TEST_F(ExplorerCells, StandOnGreyInTheSamePlacesWhenColumnsHaveBeenMoved) {
 }
 
 TEST_F(ExplorerCells, GiveLooksToOneCellAgainWhenTheBandsAreDone) {
-    bindCatIds({"7", "3"});
+    bindTwoEmptyRows();
     for (const auto paint : {makeHeaderBold, paintBands, repaintBands}) {
         paint(cells_);
         cells_.setRow(1);
@@ -196,7 +184,6 @@ TEST_F(ExplorerCells, StandInTheOrderOfWhatIsShownAndNotOfTheDate) {
     add("Late", {.birthdate = Value(DateSerial(2000, 4, 1))});
     add("Early", {.birthdate = Value(DateSerial(1900, 1, 1))});
     bind();
-    showBirthdates(cells_, people());
     cells_.setColPosition(2, 0);
     cells_.setCol(0);
     cells_.setColSel(1);

@@ -12,8 +12,6 @@
 #include "shell/handover.h"
 #include "support/next_form.h"
 
-using modCycles::DateSerial;
-
 namespace {
 
 const QString kNobody = QStringLiteral(
@@ -34,7 +32,7 @@ class Explorer : public ExplorerTest {
 
     void refresh() { click(of<PictureButton>("cmdRefresh")); }
 
-    // The card that a double click on a cell opens: whose it is, and who owns it.
+    // The card that an act of the user opens: whose it is, and who owns it.
     struct Card {
         QString name;
         Long nameId = 0;
@@ -42,14 +40,18 @@ class Explorer : public ExplorerTest {
         bool isModal = false;
     };
 
-    Card cardFromCell(int row, int column) {
+    Card cardFrom(const std::function<void()>& act) {
         Card card;
         onNextForm<frmZoom>([&card](frmZoom& shown) {
             card = {child<QLabel>(shown, QStringLiteral("lblName")).text(),
                     modCycles::SelectedNameID, shown.parentWidget(), shown.isModal()};
         });
-        doubleClick(*grid().viewport(), placeOfCell(row, column));
+        act();
         return card;
+    }
+
+    Card cardFromCell(int row, int column) {
+        return cardFrom([&] { doubleClick(*grid().viewport(), placeOfCell(row, column)); });
     }
 };
 
@@ -159,11 +161,8 @@ TEST_F(Explorer, OpensTheCardOfTheRowWhateverColumnIsDoubleClicked) {
 TEST_F(Explorer, OpensTheCardOfTheCurrentRowFromTheHeader) {
     open();
     click(*grid().viewport(), placeOfCell(2, 0));
-    QString name;
-    onNextForm<frmZoom>(
-        [&](frmZoom& card) { name = child<QLabel>(card, QStringLiteral("lblName")).text(); });
-    doubleClick(*grid().horizontalHeader()->viewport(), placeInHeader(0));
-    EXPECT_EQ(name, QStringLiteral("Zed (15)"));
+    const Card card = cardFrom([this] { doubleClick(headerView(), placeInHeader(0)); });
+    EXPECT_EQ(card.name, QStringLiteral("Zed (15)"));
 }
 
 TEST_F(Explorer, OpensTheCardOfWhoeverIsShownWhenColumnsHaveBeenMoved) {

@@ -1,5 +1,6 @@
 // The menu of favourites where there are ten thousand: made anew from the files, and dropped down
-// for the first time until it is painted. The floor is the folder read and its names sorted byte by byte.
+// for the first time until it is painted. The floor is the folder read and its names sorted byte by
+// byte.
 #include <benchmark/benchmark.h>
 
 #include <QFile>

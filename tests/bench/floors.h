@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+#include <array>
 #include <string>
 #include <vector>
 
@@ -28,3 +29,9 @@ double plainBirthdate(const QString& database, Long nameId);
 
 // The birth dates of all people, as days since 30 December 1899.
 std::vector<double> plainBirthdates(const QString& database);
+
+// The name, first name, birth date, gender, category and key of a person, as texts.
+using PlainRow = std::array<std::string, 6>;
+
+// All people, sorted by name byte by byte.
+std::vector<PlainRow> plainTable(const QString& database);

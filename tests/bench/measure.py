@@ -30,6 +30,8 @@ LISTED_AIM = {100_000: 120}
 CLICKED_AIM = {people: 8 for people in PEOPLE}
 BIRTHDAY_AIM = {people: 30 for people in PEOPLE}
 CARD_AIM = {people: 8 for people in PEOPLE}
+EXPLORED_AIM = {100_000: 250}
+SORTED_AIM = {100_000: 100}
 
 # A routine may grow by this much more than n log n from 1,000 people to 100,000: the processor's
 # caches hold the former and not the latter.
@@ -48,6 +50,9 @@ ROUTINES = [
     ('name clicked to chart painted', 'clickName', CLICKED_AIM),
     ('day picked to birthdays painted', 'pickBirthday', BIRTHDAY_AIM),
     ('person\'s card opened to painted', 'openCard', CARD_AIM),
+    ('explorer opened to painted', 'openExplorer', EXPLORED_AIM),
+    ('explorer refreshed to painted', 'refreshExplorer', EXPLORED_AIM),
+    ('explorer sorted anew to painted', 'sortExplorer', SORTED_AIM),
 ]
 FAVOURITES = [
     ('favourites listed', 'fillFavouritesMenu'),

@@ -11,6 +11,7 @@
 #include "records/frmAdd.h"
 #include "records/frmAddNew.h"
 #include "records/frmCategory.h"
+#include "records/frmExplore.h"
 #include "records/frmZoom.h"
 #include "runtime/event.h"
 #include "runtime/host.h"
@@ -37,6 +38,7 @@ Commands::Commands(frmMain& window) : window_(window) {
     onCommand("mnuBToday", &Commands::mnuBToday_Click);
     onCommand("mnuFileAdd", &Commands::mnuFileAdd_Click);
     onCommand("mnuFileCat", &Commands::mnuFileCat_Click);
+    onCommand("mnuFileExplore", &Commands::mnuFileExplore_Click);
     onCommand("mnuFind", &Commands::mnuFind_Click);
     onCommand("mnuHelpAbout", &Commands::mnuHelpAbout_Click);
     onCommand("mnuHelpContents", &Commands::mnuHelpContents_Click);
@@ -106,6 +108,11 @@ void Commands::mnuFileAdd_Click() {
 
 void Commands::mnuFileCat_Click() {
     openSlowForm<frmCategory>();
+}
+
+void Commands::mnuFileExplore_Click() {
+    openSlowForm<frmExplore>();
+    modCycles::SelectedNameID = 0;
 }
 
 void Commands::mnuHelpAbout_Click() {

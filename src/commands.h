@@ -22,6 +22,7 @@ class Commands final : public QObject {
     void mnuBToday_Click();
     void mnuFileAdd_Click();
     void mnuFileCat_Click();
+    void mnuFileExplore_Click();
     void mnuFind_Click();
     void mnuHelpAbout_Click();
     void mnuHelpContents_Click();

@@ -18,6 +18,7 @@
 #include "records/frmAdd.h"
 #include "records/frmAddNew.h"
 #include "records/frmCategory.h"
+#include "records/frmExplore.h"
 #include "records/frmZoom.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
@@ -115,6 +116,7 @@ TEST_F(CommandsTest, OpenTheFormsThatNeedNobodyWithoutAPerson) {
     expectForm<frmAbout>("mnuHelpAbout");
     expectForm<frmAdd>("mnuFileAdd");
     expectForm<frmCategory>("mnuFileCat");
+    expectForm<frmExplore>("mnuFileExplore");
 }
 
 TEST_F(CommandsTest, ShowTheHelpFileByItsNameAlone) {

@@ -14,6 +14,14 @@ Long Round(double value) {
     return static_cast<Long>(nearest);
 }
 
+Integer RoundToInteger(double value) {
+    const Long nearest = Round(value);
+    if (nearest < std::numeric_limits<Integer>::min() ||
+        nearest > std::numeric_limits<Integer>::max())
+        throw RuntimeError(ErrorNumber::Overflow);
+    return static_cast<Integer>(nearest);
+}
+
 QString numberText(Long value) {
     return QString::number(value);
 }

@@ -9,6 +9,9 @@
 // 32 bits.
 Long Round(double value);
 
+// The same; raises 6 outside 16 bits.
+Integer RoundToInteger(double value);
+
 // A whole number as text: decimal digits with no separators, and never "-0".
 QString numberText(Long value);
 

@@ -5,15 +5,24 @@
 
 namespace {
 
-QString connectionStringFor(const QString& fileName) {
-    return QStringLiteral("PROVIDER=Microsoft.Jet.OLEDB.4.0;Data Source=") + App::Path() + u'\\' +
+QString connectionStringFor(const QString& fileName,
+                            const QString& head = QStringLiteral("PROVIDER")) {
+    return head + QStringLiteral("=Microsoft.Jet.OLEDB.4.0;Data Source=") + App::Path() + u'\\' +
            fileName + u';';
+}
+
+QString peopleFile() {
+    return QStringLiteral("Ondara2.mdb");
 }
 
 }  // namespace
 
 QString personConnectionString() {
-    return connectionStringFor(QStringLiteral("Ondara2.mdb"));
+    return connectionStringFor(peopleFile());
+}
+
+QString explorerConnectionString() {
+    return connectionStringFor(peopleFile(), QStringLiteral("Provider"));
 }
 
 QString interpretationConnectionString() {

@@ -6,6 +6,9 @@
 // The connection string of the person database, put together anew from the program's directory.
 QString personConnectionString();
 
+// The same with the head in the spelling of the explorer.
+QString explorerConnectionString();
+
 // The same for the interpretation database, which is only read.
 QString interpretationConnectionString();
 

@@ -70,3 +70,16 @@ void PlainWriter::setFirstName(Long nameId, const std::string& firstName) {
     row.bind(2, nameId);
     row.exec();
 }
+
+std::vector<PlainRow> plainTable(const QString& database) {
+    const SQLite::Database file(database.toStdString());
+    SQLite::Statement rows(file, "SELECT Name, FName, Birthdate, Gender, CatID, NameID FROM Data");
+    std::vector<PlainRow> table;
+    while (rows.executeStep()) {
+        PlainRow& row = table.emplace_back();
+        for (int field = 0; field < rows.getColumnCount(); ++field)
+            row[static_cast<std::size_t>(field)] = rows.getColumn(field).getText();
+    }
+    std::sort(table.begin(), table.end());
+    return table;
+}

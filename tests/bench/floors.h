@@ -7,6 +7,7 @@
 #include <SQLiteCpp/Database.h>
 
 #include <QString>
+#include <array>
 #include <string>
 #include <vector>
 
@@ -42,3 +43,9 @@ class PlainWriter {
   private:
     SQLite::Database file_;
 };
+
+// The name, first name, birth date, gender, category and key of a person, as texts.
+using PlainRow = std::array<std::string, 6>;
+
+// All people, sorted by name byte by byte.
+std::vector<PlainRow> plainTable(const QString& database);

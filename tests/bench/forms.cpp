@@ -7,25 +7,17 @@
 #include "analyses/frmBirthdayToday.h"
 #include "bench/floors.h"
 #include "bench/paint_watch.h"
+#include "bench/surroundings.h"
 #include "controls/date_picker.h"
 #include "controls/list_box.h"
 #include "controls/list_view.h"
 #include "records/frmZoom.h"
-#include "runtime/app.h"
 #include "shell/handover.h"
 #include "shell/main_controls.h"
 
 namespace {
 
 constexpr int kDaysOfYear = 365;
-
-QString database() {
-    return App::Path() + QStringLiteral("/Ondara2.mdb");
-}
-
-QWidget* mainWindow() {
-    return mainControls().lstMain->window();
-}
 
 // Another day at every step, as if picked by the user, until the list is painted.
 void pickBirthday(benchmark::State& state) {

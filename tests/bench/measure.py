@@ -33,6 +33,8 @@ BIRTHDAY_AIM = {people: 30 for people in PEOPLE}
 CARD_AIM = {people: 8 for people in PEOPLE}
 STEP_AIM = {people: 2 for people in PEOPLE}
 UPDATE_AIM = {people: 50 for people in PEOPLE}
+EXPLORED_AIM = {100_000: 250}
+SORTED_AIM = {100_000: 100}
 
 # A routine may grow by this much more than n log n from 1,000 people to 100,000: the processor's
 # caches hold the former and not the latter.
@@ -55,6 +57,9 @@ ROUTINES = [
     ('stepped to the next person', 'stepPerson', STEP_AIM),
     ('letter found and painted', 'findLetter', {}),
     ('person updated and painted', 'updatePerson', UPDATE_AIM),
+    ('explorer opened to painted', 'openExplorer', EXPLORED_AIM),
+    ('explorer refreshed to painted', 'refreshExplorer', EXPLORED_AIM),
+    ('explorer sorted anew to painted', 'sortExplorer', SORTED_AIM),
 ]
 FAVOURITES = [
     ('favourites listed', 'fillFavouritesMenu'),

@@ -5,7 +5,7 @@
 #include "support/people.h"
 
 int main(int argc, char** argv) {
-    constexpr Long kCategories = 10;
+    constexpr Long kCategories = 200;
     if (argc != 4)
         return 2;
     QFile schema(QString::fromLocal8Bit(argv[1]));

@@ -8,12 +8,12 @@
 
 #include "bench/floors.h"
 #include "bench/paint_watch.h"
+#include "bench/surroundings.h"
 #include "controls/chart.h"
 #include "controls/chart_painter.h"
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
 #include "controls/twips.h"
-#include "runtime/app.h"
 #include "shell/main_chart.h"
 #include "shell/main_controls.h"
 #include "shell/main_lists.h"
@@ -21,10 +21,6 @@
 namespace {
 
 constexpr Long kFirstCategory = 1;
-
-QString database() {
-    return App::Path() + QStringLiteral("/Ondara2.mdb");
-}
 
 void fillPersonList(benchmark::State& state) {
     for (auto _ : state)

@@ -42,6 +42,18 @@ TEST(Round, TakesTheNearerNeighbourNextToAHalf) {
     EXPECT_EQ(Round(std::nextafter(-0.5, -1)), -1);
 }
 
+TEST(RoundToInteger, RoundsAsRoundDoesWithin16Bits) {
+    EXPECT_EQ(RoundToInteger(2.5), 2);
+    EXPECT_EQ(RoundToInteger(-3.5), -4);
+    EXPECT_EQ(RoundToInteger(32767.4), 32767);
+    EXPECT_EQ(RoundToInteger(-32768.5), -32768);
+}
+
+TEST(RoundToInteger, RaisesAnOverflowOutsideOf16Bits) {
+    for (const double beyond : {32767.5, -32769.0, 1e9, 1e30})
+        EXPECT_EQ(errorOf([beyond] { RoundToInteger(beyond); }), 6) << beyond;
+}
+
 TEST(Round, RaisesAnOverflowOutsideOf32Bits) {
     EXPECT_EQ(Round(2147483647.0), 2147483647);
     EXPECT_EQ(Round(-2147483648.0), std::numeric_limits<Long>::min());

@@ -19,6 +19,8 @@ TEST(Databases, HaveTheirConnectionStringsPutTogetherFromTheProgramsDirectory) {
     host.setProgramDirectory(QStringLiteral("C:\\Ondara"));
     EXPECT_EQ(personConnectionString(),
               u"PROVIDER=Microsoft.Jet.OLEDB.4.0;Data Source=C:\\Ondara\\Ondara2.mdb;");
+    EXPECT_EQ(explorerConnectionString(),
+              u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=C:\\Ondara\\Ondara2.mdb;");
     EXPECT_EQ(interpretationConnectionString(),
               u"PROVIDER=Microsoft.Jet.OLEDB.4.0;Data Source=C:\\Ondara\\Interp.mdb;");
     host.setProgramDirectory(QStringLiteral("/opt/ondara"));

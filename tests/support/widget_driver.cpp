@@ -31,15 +31,19 @@ void pressMouse(QWidget& widget, QPoint place) {
     QTest::mousePress(&widget, Qt::LeftButton, {}, place);
 }
 
+void holdMouse(QWidget& widget, QPoint place) {
+    QMouseEvent move(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &move);
+}
+
 void releaseMouse(QWidget& widget, QPoint place) {
     QTest::mouseRelease(&widget, Qt::LeftButton, {}, place);
 }
 
 void dragMouse(QWidget& widget, QPoint from, QPoint to) {
     pressMouse(widget, from);
-    QMouseEvent move(QEvent::MouseMove, to, widget.mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
-                     Qt::NoModifier);
-    QCoreApplication::sendEvent(&widget, &move);
+    holdMouse(widget, to);
     releaseMouse(widget, to);
 }
 

@@ -1,0 +1,21 @@
+// The generic order of a grid's rows: numbers as numbers, everything else as text.
+//
+// Two texts that are numbers from end to end are compared by value, any others by the one order of
+// texts (text_order.h). These two rules can run in a circle: 9 < 10 < 1a < 9. So a number is to
+// a text that is none what "0" is to it: all numbers stand together, before "1a" and behind "-a".
+#pragma once
+
+#include <QStringView>
+#include <compare>
+#include <functional>
+#include <span>
+
+std::weak_ordering compareGenerically(QStringView a, QStringView b);
+
+// The text by which a row is sorted, of several from 0 on: the first that is not equal decides. It
+// must stay where it is as long as the sorting takes.
+using SortText = std::function<QStringView(int row, int place)>;
+
+// Puts rows in ascending order by that many texts. Rows of which all are equal keep their order.
+// The rows' numbers are to be small, as it takes time and memory for each up to the largest.
+void sortGenerically(std::span<int> rows, int texts, const SortText& textOf);

@@ -1,0 +1,17 @@
+// What the benchmarks run in: the main window over the person database beside the program.
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+#include "controls/list_box.h"
+#include "runtime/app.h"
+#include "shell/main_controls.h"
+
+inline QString database() {
+    return App::Path() + QStringLiteral("/Ondara2.mdb");
+}
+
+inline QWidget* mainWindow() {
+    return mainControls().lstMain->window();
+}

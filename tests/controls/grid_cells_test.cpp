@@ -1,0 +1,241 @@
+// The cells of a grid, without any grid on a screen.
+#include "controls/grid_cells.h"
+
+#include <gtest/gtest.h>
+
+#include <QStringList>
+
+#include "support/errors.h"
+#include "support/printing.h"
+
+namespace {
+
+constexpr Long kGrey = 0xC0C0C0;
+
+// Three columns and, below the header, three rows.
+class GridCellsTest : public testing::Test {
+  protected:
+    GridCellsTest() {
+        bind({"Name", "Age", "City", "Zed", "9", "Rome", "abe", "10", "Oslo", "Zed", "8", "Bern"});
+    }
+
+    void bind(std::initializer_list<const char*> texts) {
+        std::vector<QString> cells;
+        for (const char* text : texts)
+            cells.push_back(QString::fromLatin1(text));
+        cells_.bind(3, std::move(cells));
+    }
+
+    // The texts of a row or of a column, divided by bars.
+    QString row(int row) const {
+        QStringList texts;
+        for (int column = 0; column < cells_.Cols(); ++column)
+            texts += cells_.TextMatrix(row, column);
+        return texts.join(u'|');
+    }
+
+    QString column(int column) const {
+        QStringList texts;
+        for (int row = 0; row < cells_.Rows(); ++row)
+            texts += cells_.TextMatrix(row, column);
+        return texts.join(u'|');
+    }
+
+    void select(int top, int left, int bottom, int right) {
+        cells_.setRow(top);
+        cells_.setCol(left);
+        cells_.setRowSel(bottom);
+        cells_.setColSel(right);
+    }
+
+    // Which cells have a background, row by row: "x" for those.
+    QString colouredCells() const {
+        QStringList rows;
+        for (int row = 0; row < cells_.Rows(); ++row) {
+            rows += QString();
+            for (int column = 0; column < cells_.Cols(); ++column)
+                rows.last() += cells_.look(row, column).backColor == kGrey ? u'x' : u'-';
+        }
+        return rows.join(u' ');
+    }
+
+    GridCells cells_;
+};
+
+}  // namespace
+
+TEST_F(GridCellsTest, HoldTheirTextsRowByRowBelowTheHeader) {
+    EXPECT_EQ(cells_.Rows(), 4);
+    EXPECT_EQ(cells_.Cols(), 3);
+    EXPECT_EQ(cells_.FixedRows(), 1);
+    EXPECT_EQ(cells_.FixedCols(), 0);
+    EXPECT_EQ(row(0), QStringLiteral("Name|Age|City"));
+    EXPECT_EQ(row(3), QStringLiteral("Zed|8|Bern"));
+}
+
+TEST_F(GridCellsTest, TakeATextForOneCell) {
+    cells_.setTextMatrix(2, 1, QStringLiteral("11"));
+    EXPECT_EQ(row(2), QStringLiteral("abe|11|Oslo"));
+    EXPECT_EQ(column(1), QStringLiteral("Age|9|11|8"));
+}
+
+TEST_F(GridCellsTest, BeginWithNoRows) {
+    const GridCells none;
+    EXPECT_EQ(none.Rows(), 0);
+    EXPECT_EQ(none.Cols(), 0);
+    EXPECT_EQ(errorOf([&] { (void)none.Text(); }), 381);
+}
+
+TEST_F(GridCellsTest, RaiseAnErrorForARowOrAColumnThatIsNotThere) {
+    for (const int row : {-1, 4}) {
+        EXPECT_EQ(errorOf([&] { (void)cells_.TextMatrix(row, 0); }), 381) << row;
+        EXPECT_EQ(errorOf([&] { cells_.setTextMatrix(row, 0, {}); }), 381) << row;
+        EXPECT_EQ(errorOf([&] { (void)cells_.look(row, 0); }), 381) << row;
+        EXPECT_EQ(errorOf([&] { cells_.setRow(row); }), 381) << row;
+        EXPECT_EQ(errorOf([&] { cells_.setRowSel(row); }), 381) << row;
+    }
+    for (const int column : {-1, 3}) {
+        EXPECT_EQ(errorOf([&] { (void)cells_.TextMatrix(0, column); }), 381) << column;
+        EXPECT_EQ(errorOf([&] { (void)cells_.ColWidth(column); }), 381) << column;
+        EXPECT_EQ(errorOf([&] { cells_.setColWidth(column, 1); }), 381) << column;
+        EXPECT_EQ(errorOf([&] { cells_.setCol(column); }), 381) << column;
+        EXPECT_EQ(errorOf([&] { cells_.setColSel(column); }), 381) << column;
+        EXPECT_EQ(errorOf([&] { cells_.setColPosition(column, 0); }), 381) << column;
+        EXPECT_EQ(errorOf([&] { cells_.setColPosition(0, column); }), 381) << column;
+    }
+}
+
+TEST_F(GridCellsTest, HaveTheFirstCellBelowTheHeaderForCurrent) {
+    EXPECT_EQ(cells_.Row(), 1);
+    EXPECT_EQ(cells_.Col(), 0);
+    EXPECT_EQ(cells_.RowSel(), 1);
+    EXPECT_EQ(cells_.ColSel(), 0);
+    EXPECT_EQ(cells_.Text(), QStringLiteral("Zed"));
+}
+
+TEST_F(GridCellsTest, SelectOneRowOrColumnUntilMoreAreNamed) {
+    select(1, 0, 3, 2);
+    cells_.setCol(1);
+    EXPECT_EQ(cells_.ColSel(), 1);
+    EXPECT_EQ(cells_.RowSel(), 3);
+    cells_.setRow(2);
+    EXPECT_EQ(cells_.RowSel(), 2);
+    EXPECT_EQ(cells_.Text(), QStringLiteral("10"));
+}
+
+TEST_F(GridCellsTest, TakeAColumnToTheLeft) {
+    cells_.setColWidth(2, 900);
+    cells_.setColPosition(2, 0);
+    EXPECT_EQ(row(0), QStringLiteral("City|Name|Age"));
+    EXPECT_EQ(row(3), QStringLiteral("Bern|Zed|8"));
+    EXPECT_EQ(cells_.ColWidth(0), 900);
+    EXPECT_EQ(cells_.ColWidth(2), GridCells::kDefaultColWidth);
+}
+
+TEST_F(GridCellsTest, TakeAColumnToTheRight) {
+    cells_.setColWidth(0, 900);
+    cells_.setColPosition(0, 1);
+    EXPECT_EQ(row(0), QStringLiteral("Age|Name|City"));
+    EXPECT_EQ(cells_.ColWidth(1), 900);
+    cells_.setColPosition(1, 1);
+    EXPECT_EQ(row(1), QStringLiteral("9|Zed|Rome"));
+}
+
+TEST_F(GridCellsTest, LookAsTheGridDoesAtTheBeginning) {
+    EXPECT_EQ(cells_.look(1, 1).backColor, 0);
+    EXPECT_FALSE(cells_.look(0, 0).isBold);
+}
+
+TEST_F(GridCellsTest, GiveALookToTheCurrentCellAlone) {
+    select(1, 1, 3, 2);
+    cells_.setCellBackColor(kGrey);
+    cells_.setCellFontBold(true);
+    EXPECT_EQ(colouredCells(), QStringLiteral("--- -x- --- ---"));
+    EXPECT_TRUE(cells_.look(1, 1).isBold);
+    EXPECT_FALSE(cells_.look(1, 2).isBold);
+}
+
+TEST_F(GridCellsTest, GiveALookToAllThatAreSelectedWhereItIsRepeated) {
+    cells_.setFillStyle(FillStyle::Repeat);
+    select(1, 1, 2, 2);
+    cells_.setCellBackColor(kGrey);
+    EXPECT_EQ(colouredCells(), QStringLiteral("--- -xx -xx ---"));
+    select(3, 2, 2, 0);
+    cells_.setCellBackColor(kGrey);
+    EXPECT_EQ(colouredCells(), QStringLiteral("--- -xx xxx xxx"));
+    cells_.setFillStyle(FillStyle::Single);
+    cells_.setCellBackColor(0);
+    EXPECT_EQ(colouredCells(), QStringLiteral("--- -xx xxx xx-"));
+}
+
+TEST_F(GridCellsTest, TakeTheirLooksAlongWithColumnsAndRows) {
+    cells_.setRow(1);
+    cells_.setCol(1);
+    cells_.setCellBackColor(kGrey);
+    cells_.setColPosition(1, 0);
+    EXPECT_EQ(colouredCells(), QStringLiteral("--- x-- --- ---"));
+    cells_.setCol(0);
+    cells_.Sort();
+    EXPECT_EQ(column(0), QStringLiteral("Age|8|9|10"));
+    EXPECT_EQ(colouredCells(), QStringLiteral("--- --- x-- ---"));
+}
+
+TEST_F(GridCellsTest, AreSortedByTheSelectedColumnsBelowTheHeader) {
+    cells_.setCol(0);
+    cells_.setColSel(1);
+    cells_.Sort();
+    EXPECT_EQ(row(0), QStringLiteral("Name|Age|City"));
+    EXPECT_EQ(row(1), QStringLiteral("abe|10|Oslo"));
+    EXPECT_EQ(row(2), QStringLiteral("Zed|8|Bern"));
+    EXPECT_EQ(row(3), QStringLiteral("Zed|9|Rome"));
+    EXPECT_EQ(cells_.Row(), 1);
+}
+
+TEST_F(GridCellsTest, AreSortedByOneColumnWhereOneIsSelected) {
+    cells_.setCol(0);
+    cells_.Sort();
+    EXPECT_EQ(column(2), QStringLiteral("City|Oslo|Rome|Bern"));
+}
+
+TEST_F(GridCellsTest, AreSortedFromLeftToRightWhicheverColumnIsCurrent) {
+    cells_.setCol(1);
+    cells_.setColSel(0);
+    cells_.Sort();
+    EXPECT_EQ(column(2), QStringLiteral("City|Oslo|Bern|Rome"));
+}
+
+TEST_F(GridCellsTest, AreSortedByTheColumnsAsTheyStand) {
+    cells_.setColPosition(2, 0);
+    cells_.setCol(0);
+    cells_.Sort();
+    EXPECT_EQ(column(0), QStringLiteral("City|Bern|Oslo|Rome"));
+}
+
+TEST_F(GridCellsTest, CanHaveMoreRowsInTheHeader) {
+    cells_.setFixedRows(2);
+    bind({"a", "", "", "b", "", "", "z", "1", "", "y", "2", ""});
+    EXPECT_EQ(cells_.Row(), 2);
+    cells_.Sort();
+    EXPECT_EQ(column(0), QStringLiteral("a|b|y|z"));
+}
+
+TEST_F(GridCellsTest, CanBeAHeaderAlone) {
+    bind({"Name", "Age", "City"});
+    EXPECT_EQ(cells_.Rows(), 1);
+    EXPECT_EQ(cells_.Row(), 0);
+    cells_.Sort();
+    EXPECT_EQ(row(0), QStringLiteral("Name|Age|City"));
+}
+
+TEST_F(GridCellsTest, AreAllNewWhenTheyAreBoundAgain) {
+    cells_.setColPosition(2, 0);
+    cells_.setColWidth(0, 900);
+    cells_.setCellBackColor(kGrey);
+    cells_.setRow(3);
+    bind({"Name", "Age", "City", "Curie", "7", "Paris"});
+    EXPECT_EQ(row(0), QStringLiteral("Name|Age|City"));
+    EXPECT_EQ(row(1), QStringLiteral("Curie|7|Paris"));
+    EXPECT_EQ(cells_.ColWidth(0), GridCells::kDefaultColWidth);
+    EXPECT_EQ(colouredCells(), QStringLiteral("--- ---"));
+    EXPECT_EQ(cells_.Row(), 1);
+}

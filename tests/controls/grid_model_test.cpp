@@ -1,0 +1,111 @@
+// The cells of a grid as views read them.
+#include "controls/grid_model.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModelTester>
+#include <QFont>
+#include <QSignalSpy>
+
+#include "support/errors.h"
+#include "support/printing.h"
+
+namespace {
+
+std::vector<QString> texts(std::initializer_list<const char*> texts) {
+    std::vector<QString> result;
+    for (const char* text : texts)
+        result.push_back(QString::fromLatin1(text));
+    return result;
+}
+
+class GridModelTest : public testing::Test {
+  protected:
+    GridModelTest() {
+        model_.change([](GridCells& cells) {
+            cells.bind(2, texts({"Name", "Age", "Zed", "9", "abe", "10"}));
+        });
+    }
+
+    QString header(int section) {
+        return model_.headerData(section, Qt::Horizontal, Qt::DisplayRole).toString();
+    }
+
+    GridModel model_;
+    QAbstractItemModelTester tester_{&model_,
+                                     QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+
+}  // namespace
+
+TEST_F(GridModelTest, HasTheRowsBelowTheHeader) {
+    ASSERT_EQ(model_.rowCount(), 2);
+    ASSERT_EQ(model_.columnCount(), 2);
+    EXPECT_EQ(model_.index(1, 0).data().toString(), QStringLiteral("abe"));
+    EXPECT_EQ(model_.gridRow(model_.index(1, 0)), 2);
+    EXPECT_EQ(header(1), QStringLiteral("Age"));
+    EXPECT_FALSE(model_.headerData(1, Qt::Vertical, Qt::DisplayRole).isValid());
+}
+
+TEST_F(GridModelTest, HasALineInTheHeaderForEachFixedRow) {
+    model_.change([](GridCells& cells) {
+        cells.setFixedRows(2);
+        cells.bind(2, texts({"Name", "Age", "", "+", "Zed", "9"}));
+    });
+    EXPECT_EQ(model_.rowCount(), 1);
+    EXPECT_EQ(header(0), QStringLiteral("Name\n"));
+    EXPECT_EQ(header(1), QStringLiteral("Age\n+"));
+}
+
+TEST_F(GridModelTest, IsEmptyBeforeAnythingIsBound) {
+    GridModel model;
+    EXPECT_EQ(model.rowCount(), 0);
+    EXPECT_EQ(model.columnCount(), 0);
+    EXPECT_FALSE(model.headerData(0, Qt::Horizontal, Qt::DisplayRole).isValid());
+}
+
+TEST_F(GridModelTest, IsBoldWhereItsCellsAre) {
+    const auto isBold = [](const QVariant& font) { return font.value<QFont>().bold(); };
+    EXPECT_FALSE(isBold(model_.index(1, 1).data(Qt::FontRole)));
+    EXPECT_FALSE(isBold(model_.headerData(1, Qt::Horizontal, Qt::FontRole)));
+    model_.change([](GridCells& cells) {
+        cells.setCol(1);
+        for (const int row : {0, 2}) {
+            cells.setRow(row);
+            cells.setCellFontBold(true);
+        }
+    });
+    EXPECT_TRUE(isBold(model_.index(1, 1).data(Qt::FontRole)));
+    EXPECT_TRUE(isBold(model_.headerData(1, Qt::Horizontal, Qt::FontRole)));
+    EXPECT_FALSE(isBold(model_.headerData(0, Qt::Horizontal, Qt::FontRole)));
+}
+
+TEST_F(GridModelTest, TellsViewsOnceOfAllThatAChangeDoes) {
+    const QSignalSpy resets(&model_, &QAbstractItemModel::modelReset);
+    model_.change([](GridCells& cells) {
+        cells.setTextMatrix(1, 0, QStringLiteral("Curie"));
+        cells.Sort();
+    });
+    EXPECT_EQ(resets.count(), 1);
+    EXPECT_EQ(model_.index(0, 0).data().toString(), QStringLiteral("abe"));
+}
+
+TEST_F(GridModelTest, TellsViewsOfAChangeThatFailsHalfway) {
+    const QSignalSpy resets(&model_, &QAbstractItemModel::modelReset);
+    EXPECT_EQ(errorOf([&] {
+                  model_.change([](GridCells& cells) {
+                      cells.setTextMatrix(1, 0, QStringLiteral("Curie"));
+                      cells.setRow(7);
+                  });
+              }),
+              381);
+    EXPECT_EQ(resets.count(), 1);
+    EXPECT_EQ(model_.index(0, 0).data().toString(), QStringLiteral("Curie"));
+}
+
+TEST_F(GridModelTest, FollowsAViewToTheUsersCell) {
+    model_.select(model_.index(1, 1));
+    EXPECT_EQ(model_.cells().Row(), 2);
+    EXPECT_EQ(model_.cells().Col(), 1);
+    EXPECT_EQ(model_.cells().Text(), QStringLiteral("10"));
+}

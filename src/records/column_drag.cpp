@@ -19,7 +19,7 @@ bool takesColumnUp(ColumnDrag& drag, const GridPoint& place, bool isLeftButtonAl
         return false;
     if (std::abs(drag.DownX - place.x) + std::abs(drag.DownY - place.y) < kDragDistance)
         return false;
-    if (place.row != kHeaderRow)
+    if (place.row != kHeaderRow || place.column >= kHiddenColumn)
         return false;
     drag.DragCol = static_cast<Integer>(place.column);
     return true;

@@ -31,7 +31,7 @@ class Reader {
         const qsizetype end = lines_.indexOf(mark, place_);
         if (end < 0)
             throw RuntimeError(ErrorNumber::InputPastEnd);
-        const QString passed = lines_.mid(place_, end - place_);
+        QString passed = lines_.mid(place_, end - place_);
         place_ = end + 1;
         return passed;
     }

@@ -53,7 +53,7 @@ QString pathOf(const QString& folder, const QString& fileName) {
 
 // Raises 53 for a file that is gone, 75 for what is there and is no file.
 QString pathOfExisting(const QString& folder, const QString& fileName) {
-    const QString path = pathOf(folder, fileName);
+    QString path = pathOf(folder, fileName);
     const QFileInfo file(path);
     if (!file.exists())
         throw fileError(ErrorNumber::FileNotFound, QStringLiteral("there is no file of this name"),

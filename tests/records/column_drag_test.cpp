@@ -89,6 +89,13 @@ TEST(ColumnDrag, TakesNothingUpAwayFromTheHeader) {
     EXPECT_TRUE(takesColumnUp(drag, {1200, 100, 0, 3}, true));
 }
 
+// Beside the last column that is shown, the mouse is over the hidden one.
+TEST(ColumnDrag, NeverTakesTheHiddenColumnUp) {
+    ColumnDrag drag = pressed();
+    EXPECT_FALSE(takesColumnUp(drag, {kPress.x + 100, kPress.y, 0, kHiddenColumn}, true));
+    EXPECT_EQ(drag.DragCol, -1);
+}
+
 TEST(ColumnDrag, TakesNothingUpOnceTheButtonIsLetGo) {
     ColumnDrag drag = pressed();
     release(drag);

@@ -97,14 +97,14 @@ void Grid::showWidths() {
     }
 }
 
-// The column stays, so that the user finds it where the arrow keys have led.
+// A change takes the current cell of the view away; there is one again, in the first column.
 void Grid::showCurrentRow() {
     const int row = std::max(cells().Row() - cells().FixedRows(), 0);
     const bool isSelected = cells().Row() == cells().RowSel();
     selectionModel()->setCurrentIndex(
-        model_.index(row, std::max(currentIndex().column(), 0)),
-        isSelected ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
-                   : QItemSelectionModel::Clear);
+        model_.index(row, 0), isSelected
+                                  ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
+                                  : QItemSelectionModel::Clear);
 }
 
 void Grid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

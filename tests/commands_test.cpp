@@ -127,6 +127,13 @@ TEST_F(CommandsTest, ShowTheHelpFileByItsNameAlone) {
     trigger("tlbMain_Help");
 }
 
+TEST_F(CommandsTest, ForgetWhoWasHandedOverOnceTheExplorerIsClosed) {
+    start();
+    onNextForm<frmExplore>([](frmExplore&) { modCycles::SelectedNameID = 7; });
+    trigger("mnuFileExplore");
+    EXPECT_EQ(modCycles::SelectedNameID, 0);
+}
+
 TEST_F(CommandsTest, HandTheCardThePersonWhoIsDoubleClicked) {
     startWith(kAnna);
     const ListBox& people = control<ListBox>("lstMain");

@@ -11,6 +11,7 @@
 #include "cycles/calendar.h"
 #include "runtime/event.h"
 #include "shell/frmMain.h"
+#include "support/errors.h"
 #include "support/main_window.h"
 
 using modCycles::DateSerial;
@@ -163,9 +164,7 @@ TEST_F(BirthdayCalendar, MissesWhoeverIsAddedUntilItIsOpenedAgain) {
 TEST_F(BirthdayCalendar, EndsTheProgramWhenThereIsNobody) {
     load();
     runSql(directory_.people(), QStringLiteral("DELETE FROM Data"));
-    host_.expectMessage(
-        QStringLiteral("Run-time error '3021':\n\nEither BOF or EOF is True, or the current record "
-                       "has been deleted. Requested operation requires a current record."));
+    host_.expectMessage(noCurrentRecordBox());
     form_ = std::make_unique<frmBirthdayToday>(&window());
     runEvent([this] { form_->Load(); });
     EXPECT_EQ(host_.exitCode(), 1);

@@ -7,6 +7,7 @@
 #include <QLabel>
 
 #include "records/wizard_driver.h"
+#include "support/errors.h"
 
 namespace {
 
@@ -148,9 +149,7 @@ TEST_F(WizardThatFails, EndsTheProgramWhereACategoryCannotBeAdded) {
 TEST_F(WizardThatFails, EndsTheProgramWithoutCategories) {
     load();
     runSql(directory_.people(), QStringLiteral("DELETE FROM Category"));
-    host_.expectMessage(QStringLiteral(
-        "Run-time error '3021':\n\nEither BOF or EOF is True, or the current record has "
-        "been deleted. Requested operation requires a current record."));
+    host_.expectMessage(noCurrentRecordBox());
     frmAddNew form(&window());
     runEvent([&] { form.ShowModal(); });
     EXPECT_EQ(host_.exitCode(), 1);

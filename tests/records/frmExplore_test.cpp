@@ -10,13 +10,10 @@
 #include "records/frmZoom.h"
 #include "shell/frmWait.h"
 #include "shell/handover.h"
+#include "support/errors.h"
 #include "support/next_form.h"
 
 namespace {
-
-const QString kNobody = QStringLiteral(
-    "Run-time error '3021':\n\nEither BOF or EOF is True, or the current record has been deleted. "
-    "Requested operation requires a current record.");
 
 class Explorer : public ExplorerTest {
   protected:
@@ -175,7 +172,7 @@ TEST_F(Explorer, OpensTheCardOfWhoeverIsShownWhenColumnsHaveBeenMoved) {
 TEST_F(Explorer, EndsTheProgramWhenThereIsNobody) {
     load();
     runSql(directory_.people(), QStringLiteral("DELETE FROM Data"));
-    host_.expectMessage(kNobody);
+    host_.expectMessage(noCurrentRecordBox());
     form_ = std::make_unique<frmExplore>(&window());
     runEvent([this] { form_->Load(); });
     EXPECT_EQ(host_.exitCode(), 1);
@@ -185,7 +182,7 @@ TEST_F(Explorer, EndsTheProgramWhenThereIsNobody) {
 TEST_F(Explorer, EndsTheProgramWhenNobodyIsLeftAtARefresh) {
     open();
     runSql(directory_.people(), QStringLiteral("DELETE FROM Data"));
-    host_.expectMessage(kNobody);
+    host_.expectMessage(noCurrentRecordBox());
     refresh();
     EXPECT_EQ(host_.exitCode(), 1);
     host_.forgetExit();

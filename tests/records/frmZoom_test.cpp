@@ -11,6 +11,7 @@
 #include "runtime/event.h"
 #include "shell/frmMain.h"
 #include "shell/handover.h"
+#include "support/errors.h"
 #include "support/event_counter.h"
 #include "support/form_rules.h"
 #include "support/main_window.h"
@@ -163,9 +164,7 @@ TEST_F(PersonZoom, FitsASmallScreenWhateverItShows) {
 
 TEST_F(PersonZoom, EndsTheProgramForAPersonWhoIsGone) {
     modCycles::SelectedNameID = 4711;
-    expectTheEnd(QStringLiteral(
-        "Run-time error '3021':\n\nEither BOF or EOF is True, or the current record has "
-        "been deleted. Requested operation requires a current record."));
+    expectTheEnd(noCurrentRecordBox());
 }
 
 TEST_F(PersonZoom, EndsTheProgramForADateOfBirthThatIsNull) {

@@ -19,6 +19,7 @@
 #include "cycles/cycle.h"
 #include "shell/frmWait.h"
 #include "shell/handover.h"
+#include "support/errors.h"
 #include "support/main_window.h"
 
 using namespace modCycles;
@@ -27,10 +28,6 @@ namespace {
 
 const QString kAnna = QStringLiteral("Smith, Anna");
 const Date kAnnasBirthdate = DateSerial(1972, 10, 20);
-const QString kNoCurrentRecord = QStringLiteral(
-    "Run-time error '3021':\n\nEither BOF or EOF is True, or the current record has "
-    "been deleted. Requested operation requires a current record.");
-
 class MainWindow : public MainWindowTest {
   protected:
     MonthView& calendar() { return control<MonthView>("dtpSelDate"); }
@@ -150,7 +147,7 @@ TEST_F(MainWindow, ChartsAPersonWhoseCategoryIsGone) {
 TEST_F(MainWindow, EndsTheProgramForAPersonWhoIsGone) {
     load();
     runSql(directory_.people(), QStringLiteral("DELETE FROM Data WHERE Name = 'Adler'"));
-    host_.expectMessage(kNoCurrentRecord);
+    host_.expectMessage(noCurrentRecordBox());
     control<ListBox>("lstMain").setListIndex(0);
     EXPECT_EQ(host_.exitCode(), 1);
 }
@@ -309,7 +306,7 @@ TEST_F(MainWindow, StartsWithoutTheInterpretations) {
 
 TEST_F(MainWindow, EndsTheProgramWithoutPeople) {
     runSql(directory_.people(), QStringLiteral("DELETE FROM Data"));
-    host_.expectMessage(kNoCurrentRecord);
+    host_.expectMessage(noCurrentRecordBox());
     load();
     EXPECT_EQ(host_.exitCode(), 1);
 }
@@ -317,7 +314,7 @@ TEST_F(MainWindow, EndsTheProgramWithoutPeople) {
 TEST_F(MainWindow, EndsTheProgramWithoutCategories) {
     directory_.dropConstraints();
     addPerson({.name = QStringLiteral("Orphan"), .catId = 99});
-    host_.expectMessage(kNoCurrentRecord);
+    host_.expectMessage(noCurrentRecordBox());
     load();
     EXPECT_EQ(host_.exitCode(), 1);
 }

@@ -28,3 +28,10 @@ QString descriptionOf(Steps&& steps) {
         return error.description;
     }
 }
+
+// The run-time's box where a record set has no current row and an operation needs one.
+inline QString noCurrentRecordBox() {
+    return QStringLiteral(
+        "Run-time error '3021':\n\nEither BOF or EOF is True, or the current record has been "
+        "deleted. Requested operation requires a current record.");
+}

@@ -12,7 +12,6 @@
 #include "shell/frmWait.h"
 #include "shell/handover.h"
 #include "shell/main_lists.h"
-#include "store/databases.h"
 #include "store/list_fillers.h"
 #include "store/statements.h"
 #include "ui_frmAdd.h"
@@ -39,8 +38,9 @@ void frmAdd::connectEvents() {
 
 void frmAdd::Form_Load() {
     openRecords(statements::allPeopleWithNotes());
+    Recordset adoCats(connection(), statements::categoriesInOrder());
     bindInputs();
-    fillCategories();
+    ui_->cbAddCat->fill(categoryEntries(adoCats));
     txtFields_Change();
     LockFields(true);
     SetGender(ui_->chkGender->isChecked());
@@ -60,12 +60,6 @@ void frmAdd::bindInputs() {
     inputs().bind(*ui_->txtFields_5, QStringLiteral("Notes"));
     inputs().bind(*ui_->lblID, QStringLiteral("NameID"));
     adoPrimaryRS_MoveComplete();
-}
-
-void frmAdd::fillCategories() {
-    Connection connection = openPersonDatabase();
-    Recordset adoCats(connection, statements::categoriesInOrder());
-    ui_->cbAddCat->fill(categoryEntries(adoCats));
 }
 
 void frmAdd::LockFields(bool locked) {

@@ -36,7 +36,6 @@ class frmAdd final : public RecordEditor {
   private:
     void connectEvents();
     void bindInputs();
-    void fillCategories();
     void find(const QString& criteria);
 
     void cbAddCat_Click();

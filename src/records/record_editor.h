@@ -43,6 +43,7 @@ class RecordEditor : public Form {
     // Opens the record set, to which the inputs can then be bound.
     void openRecords(const QString& statement);
 
+    Connection& connection() { return *connection_; }
     Recordset& adoPrimaryRS() { return *adoPrimaryRS_; }
     BoundFields& inputs() { return *inputs_; }
 

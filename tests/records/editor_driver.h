@@ -13,6 +13,7 @@
 #include "runtime/event.h"
 #include "shell/frmMain.h"
 #include "shell/handover.h"
+#include "support/errors.h"
 #include "support/main_window.h"
 
 template <class Editor>
@@ -100,10 +101,6 @@ class EditorTest : public MainWindowTest {
         host_.expectMessage(description +
                             QStringLiteral(". Please report this error to the author."));
     }
-
-    const QString kNoCurrentRecord = QStringLiteral(
-        "Either BOF or EOF is True, or the current record has been deleted. Requested operation "
-        "requires a current record");
 
   private:
     QWidget& receiverOfKeys() {

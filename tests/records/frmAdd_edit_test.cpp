@@ -42,8 +42,9 @@ TEST_F(PersonEdit, OpensItsInputs) {
     EXPECT_TRUE(in<QWidget>("chkGender").isEnabled());
     EXPECT_TRUE(in<QWidget>("dtpBirthday").isEnabled());
     EXPECT_FALSE(in<ComboBox>("cbAddCat").isLocked());
-    EXPECT_TRUE(in<QWidget>("cmdAlphabet_0").isEnabled());
-    EXPECT_TRUE(in<QWidget>("cmdAlphabet_12").isEnabled());
+    for (int button = 0; button < 13; ++button)
+        EXPECT_TRUE(
+            child<QWidget>(editor(), QStringLiteral("cmdAlphabet_%1").arg(button)).isEnabled());
 }
 
 TEST_F(PersonEdit, WritesEveryField) {
@@ -100,6 +101,46 @@ TEST_F(PersonEdit, SetsTheWordByTheUsersClickOnTheGender) {
     EXPECT_EQ(labelOf("lblMF"), QStringLiteral("Female"));
     click(in<QCheckBox>("chkGender"));
     EXPECT_EQ(labelOf("lblMF"), QStringLiteral("Male"));
+}
+
+class WordBesideTheGender : public PersonEdit {
+  protected:
+    // Stands on Aa, a woman, before Adler, a man.
+    WordBesideTheGender() {
+        addPerson({.name = QStringLiteral("Aa"), .isFemale = true});
+        open();
+    }
+
+    void expectStale() {
+        EXPECT_FALSE(in<QCheckBox>("chkGender").isChecked());
+        EXPECT_EQ(labelOf("lblMF"), QStringLiteral("Female"));
+    }
+};
+
+TEST_F(WordBesideTheGender, StaysAsItWasWhereADeletionLeads) {
+    answerDeletion(Answer::Yes);
+    EXPECT_EQ(name(), QStringLiteral("Adler"));
+    expectStale();
+}
+
+TEST_F(WordBesideTheGender, StaysAsItWasWhereAnUpdateLeads) {
+    answerDeletion(Answer::Yes);
+    press("cmdLast");
+    press("cmdEdit");
+    click(in<QCheckBox>("chkGender"));
+    press("cmdUpdate");
+    EXPECT_EQ(name(), QStringLiteral("Adler"));
+    expectStale();
+}
+
+TEST_F(WordBesideTheGender, StaysAsItWasWhereACancelLeads) {
+    answerDeletion(Answer::Yes);
+    press("cmdLast");
+    press("cmdEdit");
+    click(in<QCheckBox>("chkGender"));
+    press("cmdCancel");
+    EXPECT_EQ(name(), QStringLiteral("Adler"));
+    expectStale();
 }
 
 TEST_F(PersonEdit, LetsTheNumberFollowTheListOfCategories) {
@@ -196,6 +237,18 @@ TEST_F(PersonEdit, AddsToAnEmptyTable) {
     pressKey(child<DatePicker>(form, QStringLiteral("dtpBirthday")), Qt::Key_Up);
     child<QAbstractButton>(form, QStringLiteral("cmdUpdate")).click();
     EXPECT_EQ(peopleStored(), Value(1));
+}
+
+TEST_F(PersonEdit, SaysThatThereIsNoFirstCategoryAndGoesOnAdding) {
+    load();
+    runOnStore("DELETE FROM Data");
+    runOnStore("DELETE FROM Category");
+    frmAdd form(&window());
+    form.Show();
+    expectTrap(QStringLiteral("Invalid property value"));
+    child<QAbstractButton>(form, QStringLiteral("cmdAdd")).click();
+    EXPECT_TRUE(form.mbAddNewFlag);
+    EXPECT_TRUE(child<QWidget>(form, QStringLiteral("cmdUpdate")).isVisible());
 }
 
 TEST_F(PersonEdit, LeavesWhatWasTypedPendingWhenAButtonOfTheAlphabetLeadsAway) {

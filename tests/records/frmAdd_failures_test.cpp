@@ -221,7 +221,7 @@ TEST_F(PersonManagerThatFails, EndsTheProgramWhereNobodyIsLeftWhenItCloses) {
     beginToEdit();
     press("cmdUpdate");
     runOnStore("DELETE FROM Data");
-    host_.expectMessage(QStringLiteral("Run-time error '3021':\n\n") + kNoCurrentRecord + u'.');
+    host_.expectMessage(noCurrentRecordBox());
     close();
     EXPECT_EQ(host_.exitCode(), 1);
 }

@@ -178,6 +178,17 @@ TEST_F(PersonManager, KeepsTheGenderOfWhoWasShownBeforeAButtonOfTheAlphabet) {
     EXPECT_EQ(word(), kFemale);
 }
 
+TEST_F(PersonManager, EndsTheProgramByAButtonOfTheAlphabetInAnEmptyTable) {
+    load();
+    runOnStore("DELETE FROM Data");
+    frmAdd form(&window());
+    form.Show();
+    host_.expectMessage(noCurrentRecordBox());
+    click(child<QWidget>(form, QStringLiteral("cmdAlphabet_0")));
+    EXPECT_EQ(host_.exitCode(), 1);
+    host_.forgetExit();
+}
+
 class BehindTheLast : public PersonManager {
   protected:
     BehindTheLast() {
@@ -187,7 +198,7 @@ class BehindTheLast : public PersonManager {
     }
 
     void expectBoxThat(const char* button) {
-        expectTrap(kNoCurrentRecord);
+        expectTrap(noCurrentRecord());
         press(button);
         EXPECT_FALSE(isEditing());
         EXPECT_FALSE(editor().mbEditFlag);
@@ -239,7 +250,7 @@ TEST_F(BehindTheLast, TellsDuringAnEditThatThereIsNothingToUpdate) {
     press("cmdAlphabet_12");
     expectNothingShown();
     enter("txtFields_0", QStringLiteral("nobody"));
-    expectTrap(kNoCurrentRecord);
+    expectTrap(noCurrentRecord());
     press("cmdUpdate");
     EXPECT_TRUE(isEditing());
     EXPECT_EQ(stored("SELECT count(*) FROM Data WHERE Name = 'Adler'"), Value(1));

@@ -197,7 +197,7 @@ TEST_F(CategoryManager, DeletesTheCategoryThatHoldsEverybodyAndSoEndsTheProgram)
     answerDeletion(2, "Friends", Answer::Yes);
     EXPECT_EQ(peopleStored(), Value(0));
     EXPECT_TRUE(editor().isLoaded());
-    host_.expectMessage(QStringLiteral("Run-time error '3021':\n\n") + kNoCurrentRecord + u'.');
+    host_.expectMessage(noCurrentRecordBox());
     close();
     EXPECT_EQ(host_.exitCode(), 1);
 }
@@ -249,7 +249,7 @@ TEST_F(CategoryManager, TellsThatThereIsNothingToDeleteInAnEmptyTable) {
     runOnStore("DELETE FROM Category");
     frmCategory form(&window());
     form.Show();
-    expectTrap(kNoCurrentRecord);
+    expectTrap(noCurrentRecord());
     child<QAbstractButton>(form, QStringLiteral("cmdDelete")).click();
     EXPECT_FALSE(form.mbListsStale);
 }

@@ -76,6 +76,16 @@ TEST_F(ExplorerDrag, BeginsAtTheFourthPixel) {
     EXPECT_EQ(form_->drag().DragCol, 1);
 }
 
+TEST_F(ExplorerDrag, TakesNothingUpWithAnotherButtonThanTheLeftAlone) {
+    open();
+    pressMouse(headerView(), placeInHeader(1));
+    for (const Qt::MouseButtons buttons :
+         {Qt::MouseButtons(Qt::RightButton), Qt::LeftButton | Qt::RightButton}) {
+        holdMouse(headerView(), placeInHeader(1) + QPoint(40, 0), buttons);
+        EXPECT_EQ(form_->drag().DragCol, -1);
+    }
+}
+
 TEST_F(ExplorerDrag, MovesNothingAtAClick) {
     open();
     click(headerView(), placeInHeader(2));

@@ -1,11 +1,14 @@
 // The explorer: what it shows, Refresh, and the card.
 #include "records/frmExplore.h"
 
+#include <QDir>
+#include <QFile>
 #include <QHeaderView>
 #include <QLabel>
 
 #include "controls/list_box.h"
 #include "controls/picture_button.h"
+#include "controls/twips.h"
 #include "records/explorer_driver.h"
 #include "records/frmZoom.h"
 #include "shell/frmWait.h"
@@ -179,6 +182,18 @@ TEST_F(Explorer, EndsTheProgramWhenThereIsNobody) {
     host_.forgetExit();
 }
 
+TEST_F(Explorer, EndsTheProgramWhereTheDatabaseIsGone) {
+    load();
+    QFile::remove(directory_.people());
+    host_.expectMessage(
+        QStringLiteral("Run-time error '53':\n\nFile not found: there is no file of this name, ") +
+        QDir::toNativeSeparators(directory_.people()));
+    form_ = std::make_unique<frmExplore>(&window());
+    runEvent([this] { form_->Load(); });
+    EXPECT_EQ(host_.exitCode(), 1);
+    host_.forgetExit();
+}
+
 TEST_F(Explorer, EndsTheProgramWhenNobodyIsLeftAtARefresh) {
     open();
     runSql(directory_.people(), QStringLiteral("DELETE FROM Data"));
@@ -208,12 +223,16 @@ TEST_F(Explorer, HasThePlacesOfItsControlsFromTheBottomRight) {
         const QRect close = of<PictureButton>("cmdClose").geometry();
         const QRect refresh = of<PictureButton>("cmdRefresh").geometry();
         const QRect hint = of<QLabel>("Label1").geometry();
-        EXPECT_EQ(close.right(), size.width() - 17);
-        EXPECT_EQ(close.bottom(), size.height() - 17);
-        EXPECT_EQ(refresh.right(), close.left() - 9);
-        EXPECT_EQ(hint.right(), refresh.left() - 9);
-        EXPECT_EQ(grid().geometry(),
-                  QRect(QPoint(16, 16), QPoint(size.width() - 17, close.top() - 9)));
+        const auto leftOf = [&](const QRect& place, int fromRight) {
+            return size.width() - toPixels(fromRight) - place.width();
+        };
+        EXPECT_EQ(close.left(), leftOf(close, 60));
+        EXPECT_EQ(refresh.left(), leftOf(refresh, 60 + 1300));
+        EXPECT_EQ(hint.left(), leftOf(hint, 60 + 2600));
+        for (const QRect& place : {close, refresh, hint})
+            EXPECT_EQ(place.top(), size.height() - toPixels(60) - place.height());
+        EXPECT_EQ(grid().geometry(), QRect(toPixels(60), toPixels(60), size.width() - toPixels(120),
+                                           hint.top() - toPixels(120)));
     }
 }
 

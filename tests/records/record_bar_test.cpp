@@ -54,20 +54,4 @@ TEST_F(RecordBarTest, OffersUpdateAndCancelAloneDuringAnEdit) {
     expectArrows(true);
 }
 
-TEST_F(RecordBarTest, GivesTheStatusTheRoomBetweenTheArrows) {
-    const auto gaps = [this] {
-        const QRect status = in(QStringLiteral("lblStatus")).geometry();
-        const QRect next = in(QStringLiteral("cmdNext")).geometry();
-        const QRect last = in(QStringLiteral("cmdLast")).geometry();
-        return std::vector<int>{status.left(), next.left() - status.right(),
-                                last.left() - next.left()};
-    };
-    bar_.resize(400, bar_.height());
-    const auto before = gaps();
-    const int width = in(QStringLiteral("lblStatus")).width();
-    bar_.resize(640, bar_.height());
-    EXPECT_EQ(gaps(), before);
-    EXPECT_EQ(in(QStringLiteral("lblStatus")).width(), width + 240);
-}
-
 }  // namespace

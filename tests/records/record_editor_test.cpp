@@ -4,6 +4,7 @@
 #include <QCursor>
 #include <QGuiApplication>
 
+#include "controls/twips.h"
 #include "records/editor_driver.h"
 #include "records/frmAdd.h"
 #include "records/frmCategory.h"
@@ -275,13 +276,32 @@ TYPED_TEST(EveryEditor, TellsOfAMoveThatIsImpossibleInAnEmptyTable) {
         child<QAbstractButton>(form, QString::fromLatin1(arrow)).click();
     };
     for (const char* arrow : {"cmdFirst", "cmdLast"}) {
-        this->expectTrap(this->kNoCurrentRecord);
+        this->expectTrap(noCurrentRecord());
         press(arrow);
     }
     for (const char* arrow : {"cmdPrevious", "cmdNext"})
         press(arrow);
     EXPECT_EQ(this->host_.messages().size(), 2U);
     EXPECT_EQ(this->host_.beeps(), 0);
+}
+
+TYPED_TEST(EveryEditor, CancelsAnAdditionToAnEmptyTableWithoutABox) {
+    this->load();
+    this->runOnStore(Rows<TypeParam>::kDeleteAll);
+    TypeParam form(&this->window());
+    form.Show();
+    const auto press = [&](const char* button) {
+        child<QAbstractButton>(form, QString::fromLatin1(button)).click();
+    };
+    press("cmdAdd");
+    form.mbDataChanged = true;
+    form.mbListsStale = true;
+    press("cmdCancel");
+    EXPECT_FALSE(form.mbAddNewFlag);
+    EXPECT_FALSE(form.mbDataChanged);
+    EXPECT_FALSE(form.mbListsStale);
+    EXPECT_TRUE(child<QWidget>(form, QStringLiteral("cmdAdd")).isVisible());
+    EXPECT_TRUE(this->host_.messages().empty());
 }
 
 TYPED_TEST(EveryEditor, GivesTheMouseItsOwnPointerBackWhenItCloses) {
@@ -330,21 +350,19 @@ TYPED_TEST(EveryEditor, HoldsNoLockWhileItIsOpen) {
     this->press("cmdCancel");
 }
 
-TYPED_TEST(EveryEditor, LetsTheStatusHaveTheRoomOfAWiderWindow) {
+TYPED_TEST(EveryEditor, HasItsNavigatorAlongItsLowerEdge) {
     this->open();
-    const auto right = [this](const char* name) {
-        const auto& control = this->template in<QWidget>(name);
-        return this->editor().width() -
-               control.mapTo(&this->editor(), QPoint(control.width(), 0)).x();
-    };
-    const int next = right("cmdNext");
-    const int last = right("cmdLast");
-    const int status = this->template in<QWidget>("lblStatus").width();
-    this->editor().resize(this->editor().width() + 100, this->editor().height());
-    QCoreApplication::sendPostedEvents();
-    EXPECT_EQ(right("cmdNext"), next);
-    EXPECT_EQ(right("cmdLast"), last);
-    EXPECT_EQ(this->template in<QWidget>("lblStatus").width(), status + 100);
+    for (const int width : {608, 900}) {
+        this->editor().resize(width, this->editor().height());
+        QCoreApplication::sendPostedEvents();
+        const QRect first = this->template in<QWidget>("cmdFirst").geometry();
+        const QRect status = this->template in<QWidget>("lblStatus").geometry();
+        const QRect next = this->template in<QWidget>("cmdNext").geometry();
+        const QRect last = this->template in<QWidget>("cmdLast").geometry();
+        EXPECT_EQ(status.width(), width - toPixels(1500));
+        EXPECT_EQ(next.left() - first.left(), status.width() + toPixels(700));
+        EXPECT_EQ(last.left(), next.left() + toPixels(340));
+    }
 }
 
 }  // namespace

@@ -29,9 +29,14 @@ QString descriptionOf(Steps&& steps) {
     }
 }
 
-// The run-time's box where a record set has no current row and an operation needs one.
-inline QString noCurrentRecordBox() {
+// What a trap says where a record set has no current row and an operation needs one.
+inline QString noCurrentRecord() {
     return QStringLiteral(
-        "Run-time error '3021':\n\nEither BOF or EOF is True, or the current record has been "
-        "deleted. Requested operation requires a current record.");
+        "Either BOF or EOF is True, or the current record has been deleted. Requested operation "
+        "requires a current record");
+}
+
+// The run-time's box for the same.
+inline QString noCurrentRecordBox() {
+    return QStringLiteral("Run-time error '3021':\n\n") + noCurrentRecord() + u'.';
 }

@@ -31,9 +31,9 @@ void pressMouse(QWidget& widget, QPoint place) {
     QTest::mousePress(&widget, Qt::LeftButton, {}, place);
 }
 
-void holdMouse(QWidget& widget, QPoint place) {
-    QMouseEvent move(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton,
-                     Qt::LeftButton, Qt::NoModifier);
+void holdMouse(QWidget& widget, QPoint place, Qt::MouseButtons buttons) {
+    QMouseEvent move(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton, buttons,
+                     Qt::NoModifier);
     QCoreApplication::sendEvent(&widget, &move);
 }
 

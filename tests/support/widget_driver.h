@@ -23,7 +23,8 @@ void click(QWidget& widget, QPoint place, Qt::KeyboardModifiers modifiers = {});
 void click(QWidget& widget);
 void doubleClick(QWidget& widget, QPoint place);
 void pressMouse(QWidget& widget, QPoint place);
-void holdMouse(QWidget& widget, QPoint place);  // moves it, with the left button held
+void holdMouse(QWidget& widget, QPoint place,  // moves it, with buttons held
+               Qt::MouseButtons buttons = Qt::LeftButton);
 void releaseMouse(QWidget& widget, QPoint place);
 void dragMouse(QWidget& widget, QPoint from, QPoint to);
 void moveMouse(QWidget& widget, QPoint place);

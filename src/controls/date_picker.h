@@ -12,7 +12,8 @@ class QuietCalendar;
 //
 // The field can be empty. It has a date again when code sets one or the user begins: a key that
 // types or steps starts from today, and the calendar opens on today. Value is today while it is
-// empty. A field that is disabled is still to be read, and looks like a locked text box.
+// empty, or MinDate where that is later. A field that is disabled is still to be read, and looks
+// like a locked text box.
 class DatePicker final : public QDateEdit, public DateControl {
     Q_OBJECT
 

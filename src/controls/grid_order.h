@@ -13,9 +13,9 @@
 std::weak_ordering compareGenerically(QStringView a, QStringView b);
 
 // The text by which a row is sorted, of several from 0 on: the first that is not equal decides. It
-// must stay where it is as long as the sorting takes.
+// must stay where it is as long as the sorting takes. It is asked for every row up to the largest
+// number of those to sort, also for some that are not among them.
 using SortText = std::function<QStringView(int row, int place)>;
 
 // Puts rows in ascending order by that many texts. Rows of which all are equal keep their order.
-// The rows' numbers are to be small, as it takes time and memory for each up to the largest.
 void sortGenerically(std::span<int> rows, int texts, const SortText& textOf);

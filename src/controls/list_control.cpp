@@ -31,6 +31,14 @@ void ListControl::setText(const QString& text) {
     setListIndex(entries().find(text));
 }
 
+int ListControl::indexOf(Long itemData) const {
+    for (int entry = 0; entry < ListCount(); ++entry) {
+        if (ItemData(entry) == itemData)
+            return entry;
+    }
+    return -1;
+}
+
 void ListControl::AddItem(const QString& text) {
     const int place = entries().placeOf(text);
     change(listIndex_ >= place ? listIndex_ + 1 : listIndex_, [&] { model_.insert(place, text); });

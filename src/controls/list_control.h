@@ -30,6 +30,10 @@ class ListControl : public ItemList {
     // The text of an entry. Raises 381 if there is no such entry, as ItemData does.
     QString List(int index) const { return entries().text(index); }
     Long ItemData(int index) const { return entries().itemData(index); }
+
+    // The first entry with this number as item data; -1 if there is none.
+    int indexOf(Long itemData) const;
+
     void setItemData(int index, Long value) { model_.changeItemData(index, value); }
 
     void Clear() { fill({}); }

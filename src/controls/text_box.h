@@ -3,8 +3,7 @@
 
 #include <QLineEdit>
 
-// Its background is painted in its background role, in the colours of the palette there is at that
-// moment: as an input at first, and in the colour of buttons where setBackgroundRole says so.
+// Its background follows the palette, whether or not it is locked.
 //
 // LostFocus is fired whenever the user goes on to another control, whether or not the text has
 // changed; not while another window or a menu has the keyboard for a while.

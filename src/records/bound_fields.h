@@ -1,7 +1,7 @@
 // Controls that are bound to the fields of a record set's current row.
 #pragma once
 
-#include <QObject>
+#include <QString>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -21,10 +21,11 @@ class TextBox;
 //
 // A record set tells of no move: whoever moves it shows the row. The set and the controls must be
 // there as long as this is.
-class BoundFields final : public QObject {
+class BoundFields final {
   public:
     explicit BoundFields(Recordset& rows);
-    ~BoundFields() override;
+    ~BoundFields();
+    Q_DISABLE_COPY_MOVE(BoundFields)
 
     // Each binds a control to the field of this name.
     void bind(TextBox& box, const QString& name);

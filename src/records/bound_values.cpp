@@ -14,13 +14,11 @@ bool isNumber(const Value& value) {
 }  // namespace
 
 QString shownText(const Value& value) {
-    if (value.isNull())
-        return {};
     if (const auto* whole = std::get_if<std::int64_t>(&value.content()))
         return QString::number(*whole);
     if (isNumber(value))
         return QString::number(value.toDouble(), 'g', QLocale::FloatingPointShortest);
-    return value.toText();
+    return textOrNothing(value);
 }
 
 bool shownCheck(const Value& value) {

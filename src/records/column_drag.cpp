@@ -5,32 +5,32 @@
 
 #include "runtime/numbers.h"
 
-void press(ColumnDrag& drag, const GridPoint& place) {
+void ColumnDrag::press(const GridPoint& place) {
     if (place.row != kHeaderRow)
         return;
-    drag.DownX = RoundToInteger(place.x);
-    drag.DownY = RoundToInteger(place.y);
-    drag.DragCol = -1;
-    drag.DragOK = true;
+    DownX = RoundToInteger(place.x);
+    DownY = RoundToInteger(place.y);
+    DragCol = -1;
+    DragOK = true;
 }
 
-bool takesColumnUp(ColumnDrag& drag, const GridPoint& place, bool isLeftButtonAlone) {
-    if (!drag.DragOK || !isLeftButtonAlone || drag.DragCol != -1)
+bool ColumnDrag::takeUp(const GridPoint& place, bool isLeftButtonAlone) {
+    if (!DragOK || !isLeftButtonAlone || DragCol != -1)
         return false;
-    if (std::abs(drag.DownX - place.x) + std::abs(drag.DownY - place.y) < kDragDistance)
+    if (std::abs(DownX - place.x) + std::abs(DownY - place.y) < kDragDistance)
         return false;
     if (place.row != kHeaderRow || place.column >= kHiddenColumn)
         return false;
-    drag.DragCol = static_cast<Integer>(place.column);
+    DragCol = static_cast<Integer>(place.column);
     return true;
 }
 
-void release(ColumnDrag& drag) {
-    drag.DragOK = false;
+void ColumnDrag::release() {
+    DragOK = false;
 }
 
-ColumnDrop dropOf(const ColumnDrag& drag, int row, int column) {
-    if (drag.DragCol == -1 || row != kHeaderRow)
+ColumnDrop ColumnDrag::dropAt(int row, int column) const {
+    if (DragCol == -1 || row != kHeaderRow)
         return ColumnDrop::Nothing;
     return column >= kHiddenColumn ? ColumnDrop::OnHidden : ColumnDrop::Moves;
 }

@@ -21,27 +21,28 @@ struct GridPoint {
     int column;
 };
 
-struct ColumnDrag {
-    bool DragOK = false;   // a press on the header is in progress
-    Integer DragCol = -1;  // the column that was taken up; -1 for none
-    Integer DownX = 0;     // where the press was
-    Integer DownY = 0;
-};
-
-// The button goes down. Only on the header does this change anything. Raises 6 (Overflow) for a
-// position beyond 16 bits.
-void press(ColumnDrag& drag, const GridPoint& place);
-
-// The mouse moves. Returns whether this takes a column up: the one in DragCol.
-bool takesColumnUp(ColumnDrag& drag, const GridPoint& place, bool isLeftButtonAlone);
-
-// The button is let go.
-void release(ColumnDrag& drag);
-
 enum class ColumnDrop {
     Nothing,   // no column was taken up, or the mouse is not over the header
     OnHidden,  // nothing moves, but the grid has stopped painting by then
     Moves      // the column goes to where the mouse is
 };
 
-ColumnDrop dropOf(const ColumnDrag& drag, int row, int column);
+struct ColumnDrag {
+    bool DragOK = false;   // a press on the header is in progress
+    Integer DragCol = -1;  // the column that was taken up; -1 for none
+    Integer DownX = 0;     // where the press was
+    Integer DownY = 0;
+
+    // The button goes down. Only on the header does this change anything. Raises 6 (Overflow) for a
+    // position beyond 16 bits.
+    void press(const GridPoint& place);
+
+    // The mouse moves. Returns whether this takes a column up: the one in DragCol then.
+    bool takeUp(const GridPoint& place, bool isLeftButtonAlone);
+
+    // The button is let go.
+    void release();
+
+    // What a drop on this cell does.
+    ColumnDrop dropAt(int row, int column) const;
+};

@@ -4,7 +4,7 @@
 #include "cycles/integers.h"
 #include "runtime/message.h"
 
-// The last person and the last category stay, as the main window's lists must not go empty.
+// The last person and the last category stay.
 Message lastPersonRefusal();
 Message lastCategoryRefusal();
 

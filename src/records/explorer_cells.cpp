@@ -25,10 +25,6 @@ constexpr int kCategoryWidth = 1200;
 constexpr Long kWhite = 0xFFFFFF;
 constexpr Long kGrey = 0xC0C0C0;
 
-QString textOrNothing(const Value& value) {
-    return value.isNull() ? QString() : value.toText();
-}
-
 QString booleanText(const Value& value) {
     return value.toBoolean() ? QStringLiteral("True") : QStringLiteral("False");
 }

@@ -40,7 +40,8 @@ QString birthdateText(Date birthdate);
 QString genderWord(const QString& gender);
 
 // Everybody, a row each in the order of the set, below the names of the fields. Raises 3021 if
-// there is nobody.
+// there is nobody, 94 (Invalid use of Null) for somebody without a birth date, a gender or a
+// category, and 13 (Type mismatch) where one of these is no number.
 void bindPeople(GridCells& cells, Recordset& people, CategoryLookup& categories);
 
 // The widths of the columns, and those headers that are not the names of their fields.

@@ -42,12 +42,9 @@ void frmAdd::Form_Load() {
     bindInputs();
     ui_->cbAddCat->fill(categoryEntries(adoCats));
     txtFields_Change();
-    LockFields(true);
     SetGender(ui_->chkGender->isChecked());
     if (modCycles::SelectedNameID != 0)
         find(QStringLiteral("NameID = ") + numberText(modCycles::SelectedNameID));
-    mbDataChanged = false;
-    mbListsStale = false;
     unloadWaitWindow();
 }
 
@@ -79,8 +76,11 @@ void frmAdd::chkGender_Click() {
     SetGender(ui_->chkGender->isChecked());
 }
 
+// The number that is typed is left alone where it is right, and so is the cursor in it.
 void frmAdd::cbAddCat_Click() {
-    ui_->txtFields_4->setText(numberText(ui_->cbAddCat->ItemData(ui_->cbAddCat->ListIndex())));
+    const QString catId = numberText(ui_->cbAddCat->ItemData(ui_->cbAddCat->ListIndex()));
+    if (ui_->txtFields_4->text() != catId)
+        ui_->txtFields_4->setText(catId);
 }
 
 // Selects the category whose number the box holds. A number of none, and what is no number, leaves
@@ -88,12 +88,9 @@ void frmAdd::cbAddCat_Click() {
 void frmAdd::txtFields_Change() {
     bool isNumber = false;
     const Long catId = ui_->txtFields_4->text().toInt(&isNumber);
-    for (int entry = 0; isNumber && entry < ui_->cbAddCat->ListCount(); ++entry) {
-        if (ui_->cbAddCat->ItemData(entry) == catId) {
-            ui_->cbAddCat->setListIndex(entry);
-            return;
-        }
-    }
+    const int entry = isNumber ? ui_->cbAddCat->indexOf(catId) : -1;
+    if (entry != -1)
+        ui_->cbAddCat->setListIndex(entry);
 }
 
 void frmAdd::afterStep() {

@@ -43,7 +43,7 @@ class frmAdd final : public RecordEditor {
     void cmdAlphabet_Click(int button);
     void txtFields_Change();
 
-    void SetGender(bool gender);
+    void SetGender(bool gender);  // true is female
 
     std::unique_ptr<Ui::frmAdd> ui_;
 };

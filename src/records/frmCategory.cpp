@@ -32,9 +32,6 @@ void frmCategory::Form_Load() {
     inputs().bind(*ui_->txtFields_1, QStringLiteral("Category"));
     inputs().bind(*ui_->lblCatID, QStringLiteral("CatID"));
     adoPrimaryRS_MoveComplete();
-    LockFields(true);
-    mbDataChanged = false;
-    mbListsStale = false;
     unloadWaitWindow();
 }
 

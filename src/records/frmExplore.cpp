@@ -35,9 +35,7 @@ void frmExplore::Form_Load() {
 }
 
 void frmExplore::Form_Unload() {
-    people_.reset();
-    categories_.reset();
-    connection_.reset();
+    closeRecordSets();
 }
 
 void frmExplore::Form_KeyDown(QKeyEvent& key) {
@@ -54,9 +52,16 @@ void frmExplore::cmdRefresh_Click() {
 }
 
 void frmExplore::openRecordSets() {
+    closeRecordSets();
     connection_.emplace(explorerConnectionString());
     people_.emplace(*connection_, statements::allPeople(), adLockReadOnly);
     categories_.emplace(*connection_, statements::categories(), adLockReadOnly);
+}
+
+void frmExplore::closeRecordSets() {
+    people_.reset();
+    categories_.reset();
+    connection_.reset();
 }
 
 void frmExplore::fillGrid() {
@@ -65,7 +70,6 @@ void frmExplore::fillGrid() {
     ui_->MSHFlexGrid1->change([&](GridCells& cells) {
         bindPeople(cells, *people_, categories);
         setUpColumns(cells);
-        cells.Sort();
         makeHeaderBold(cells);
         paintBands(cells);
     });
@@ -104,28 +108,29 @@ GridPoint frmExplore::mousePlace(double x, double y) const {
 }
 
 void frmExplore::MSHFlexGrid1_MouseDown(Qt::MouseButtons, double x, double y) {
-    press(drag_, mousePlace(x, y));
+    drag_.press(mousePlace(x, y));
 }
 
 void frmExplore::MSHFlexGrid1_MouseMove(Qt::MouseButtons buttons, double x, double y) {
-    if (takesColumnUp(drag_, mousePlace(x, y), buttons == Qt::LeftButton))
+    if (drag_.takeUp(mousePlace(x, y), buttons == Qt::LeftButton))
         ui_->MSHFlexGrid1->Drag(drag_.DragCol);
 }
 
 void frmExplore::MSHFlexGrid1_MouseUp() {
-    release(drag_);
+    drag_.release();
 }
 
 void frmExplore::MSHFlexGrid1_DragDrop() {
     Grid& grid = *ui_->MSHFlexGrid1;
-    const ColumnDrop drop = dropOf(drag_, grid.MouseRow(), grid.MouseCol());
+    const int place = grid.MouseCol();
+    const ColumnDrop drop = drag_.dropAt(grid.MouseRow(), place);
     if (drop == ColumnDrop::Nothing)
         return;
     grid.setRedraw(false);
     if (drop == ColumnDrop::OnHidden)
         return;
     grid.change([&](GridCells& cells) {
-        cells.setColPosition(drag_.DragCol, grid.MouseCol());
+        cells.setColPosition(drag_.DragCol, place);
         repaintBands(cells);
     });
     DoSort();

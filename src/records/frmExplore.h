@@ -17,7 +17,7 @@ class frmExplore;
 
 // One row a person, read when the form opens and at each Refresh; nothing can be edited. A column
 // that is dragged to the front is what the rows are sorted by. A double click opens the card of
-// the current row's person. Raises 3021 on loading if there is nobody.
+// the current row's person. Loading raises what bindPeople raises.
 class frmExplore final : public Form {
     Q_OBJECT
 
@@ -46,6 +46,7 @@ class frmExplore final : public Form {
     void MSHFlexGrid1_DblClick();
 
     void openRecordSets();
+    void closeRecordSets();
     void fillGrid();
     void addCategories();
     std::vector<ListEntry> lookup() const;

@@ -8,14 +8,6 @@
 #include "runtime/text.h"
 #include "store/recordset.h"
 
-namespace {
-
-QString textOrNothing(const Value& value) {
-    return value.isNull() ? QString() : value.toText();
-}
-
-}  // namespace
-
 PersonCard personCard(const Recordset& person, Date today) {
     const Date birthdate = person.Fields(u"birthdate").toDate();
     return {

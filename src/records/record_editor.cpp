@@ -35,6 +35,10 @@ void RecordEditor::openRecords(const QString& statement) {
     connection_ = openPersonDatabase();
     adoPrimaryRS_.emplace(*connection_, statement);
     inputs_ = std::make_unique<BoundFields>(*adoPrimaryRS_);
+    endEditing();
+    mvBookMark = 0;
+    mbDataChanged = false;
+    mbListsStale = false;
 }
 
 void RecordEditor::Form_Unload() {
@@ -164,11 +168,9 @@ void RecordEditor::cmdUpdate_Click() {
 
 void RecordEditor::cmdCancel_Click() {
     endEditing();
-    resumingNext([this] {
-        adoPrimaryRS_->CancelUpdate();
-        inputs_->show();
-    });
+    resumingNext([this] { adoPrimaryRS_->CancelUpdate(); });
     resumingNext([this] { goBack(); });
+    adoPrimaryRS_MoveComplete();
     mbDataChanged = false;
     mbListsStale = false;
 }
@@ -178,7 +180,6 @@ void RecordEditor::goBack() {
         adoPrimaryRS_->setBookmark(mvBookMark);
     else
         adoPrimaryRS_->MoveFirst();
-    adoPrimaryRS_MoveComplete();
 }
 
 void RecordEditor::cmdDelete_Click() {

@@ -21,7 +21,8 @@ class RecordBar;
 // knows.
 //
 // A Cancel forgets that something has been written before, and goes back to the row that was
-// current at the last Add, if there was one.
+// current at the last Add, if there was one. It drops what is pending on the current row alone;
+// what is pending on others, the next Update writes.
 class RecordEditor : public Form {
     Q_OBJECT
 
@@ -40,7 +41,8 @@ class RecordEditor : public Form {
     // Takes the bar into service; once, when the form is made.
     void useBar(RecordBar& bar);
 
-    // Opens the record set, to which the inputs can then be bound.
+    // Opens the record set, to which the inputs can then be bound. The form browses, and nothing
+    // has been written yet.
     void openRecords(const QString& statement);
 
     Connection& connection() { return *connection_; }

@@ -23,7 +23,7 @@ enum ObjectState { adStateClosed = 0, adStateOpen = 1 };
 //
 // Field names match without regard to case; an unknown one raises 3265. An operation that needs a
 // row and has none raises 3021. A set that is read-only, or whose statement does not read one
-// table with its key, raises 3251 on any change; a closed one raises 3704 on everything.
+// table with its key, raises 3251 on any change; a closed one raises 3704 on everything but State.
 class Recordset {
   public:
     // Sends the statement and reads all rows. Stands on the first row, or at both ends. What the

@@ -45,6 +45,10 @@ bool Value::toBoolean() const {
     return toDouble() != 0;
 }
 
+QString textOrNothing(const Value& value) {
+    return value.isNull() ? QString() : value.toText();
+}
+
 bool isNullOrEmpty(const Value& value) {
     const auto* text = std::get_if<QString>(&value.content());
     return value.isNull() || (text && text->isEmpty());

@@ -47,5 +47,8 @@ class Value {
     Content content_;
 };
 
+// The text of a field that may have none: nothing for Null.
+QString textOrNothing(const Value& value);
+
 // Null and the empty text, which are the same to whoever shows them.
 bool isNullOrEmpty(const Value& value);

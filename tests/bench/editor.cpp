@@ -10,22 +10,12 @@
 
 #include "bench/floors.h"
 #include "bench/paint_watch.h"
-#include "controls/list_box.h"
+#include "bench/surroundings.h"
 #include "records/frmAdd.h"
-#include "runtime/app.h"
-#include "shell/main_controls.h"
 
 namespace {
 
 constexpr Long kInputs = 6;
-
-QString database() {
-    return App::Path() + QStringLiteral("/Ondara2.mdb");
-}
-
-QWidget* mainWindow() {
-    return mainControls().lstMain->window();
-}
 
 // Another text at every number.
 QString textFor(int number) {

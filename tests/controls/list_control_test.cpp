@@ -134,6 +134,14 @@ TYPED_TEST(Lists, SelectNothingForATextThatNoEntryHas) {
     EXPECT_EQ(this->clicks_.fired(), before);
 }
 
+TYPED_TEST(Lists, FindTheFirstEntryWithANumber) {
+    this->list_.fill(
+        {{QStringLiteral("a"), 7}, {QStringLiteral("b"), 9}, {QStringLiteral("c"), 9}});
+    EXPECT_EQ(this->list_.indexOf(9), 1);
+    EXPECT_EQ(this->list_.indexOf(8), -1);
+    EXPECT_EQ(this->list_.ListIndex(), -1);
+}
+
 TYPED_TEST(Lists, AddAnEntryInItsPlaceAndTellWhereItStands) {
     this->list_.AddItem(QStringLiteral("Bach, Anna"));
     EXPECT_EQ(this->list_.NewIndex(), 1);

@@ -11,14 +11,14 @@ constexpr GridPoint kPress{.x = 1000, .y = 100, .row = 0, .column = 2};
 
 ColumnDrag pressed() {
     ColumnDrag drag;
-    press(drag, kPress);
+    drag.press(kPress);
     return drag;
 }
 
 // Whether a move by so much takes the column up.
 bool isTakenUp(double dx, double dy) {
     ColumnDrag drag = pressed();
-    return takesColumnUp(drag, {kPress.x + dx, kPress.y + dy, 0, 2}, true);
+    return drag.takeUp({kPress.x + dx, kPress.y + dy, 0, 2}, true);
 }
 
 }  // namespace
@@ -31,7 +31,7 @@ TEST(ColumnDrag, BeginsWithNothingTakenUp) {
 
 TEST(ColumnDrag, KeepsWhereTheHeaderWasPressed) {
     ColumnDrag drag{.DragCol = 3};
-    press(drag, {.x = 1000.5, .y = 99.4, .row = 0, .column = 2});
+    drag.press({.x = 1000.5, .y = 99.4, .row = 0, .column = 2});
     EXPECT_TRUE(drag.DragOK);
     EXPECT_EQ(drag.DragCol, -1);
     EXPECT_EQ(drag.DownX, 1000);
@@ -40,16 +40,16 @@ TEST(ColumnDrag, KeepsWhereTheHeaderWasPressed) {
 
 TEST(ColumnDrag, TakesNoNoticeOfAPressOnARowOfData) {
     ColumnDrag drag{.DragCol = 3};
-    press(drag, {.x = 1000, .y = 500, .row = 1, .column = 2});
+    drag.press({.x = 1000, .y = 500, .row = 1, .column = 2});
     EXPECT_FALSE(drag.DragOK);
     EXPECT_EQ(drag.DragCol, 3);
     EXPECT_EQ(drag.DownX, 0);
-    EXPECT_FALSE(takesColumnUp(drag, {5000, 100, 0, 2}, true));
+    EXPECT_FALSE(drag.takeUp({5000, 100, 0, 2}, true));
 }
 
 TEST(ColumnDrag, RaisesAnOverflowForAPressBeyondSixteenBits) {
     ColumnDrag drag;
-    EXPECT_EQ(errorOf([&] { press(drag, {.x = 32768, .y = 0, .row = 0, .column = 4}); }), 6);
+    EXPECT_EQ(errorOf([&] { drag.press({.x = 32768, .y = 0, .row = 0, .column = 4}); }), 6);
     EXPECT_FALSE(drag.DragOK);
 }
 
@@ -66,58 +66,58 @@ TEST(ColumnDrag, TakesAColumnUpFromFiftyTwipsOnThatAreAdded) {
 
 TEST(ColumnDrag, TakesUpTheColumnThatIsUnderTheMouseByThen) {
     ColumnDrag drag = pressed();
-    EXPECT_TRUE(takesColumnUp(drag, {1200, 100, 0, 3}, true));
+    EXPECT_TRUE(drag.takeUp({1200, 100, 0, 3}, true));
     EXPECT_EQ(drag.DragCol, 3);
 }
 
 TEST(ColumnDrag, TakesNoSecondColumnUp) {
     ColumnDrag drag = pressed();
-    EXPECT_TRUE(takesColumnUp(drag, {1200, 100, 0, 3}, true));
-    EXPECT_FALSE(takesColumnUp(drag, {2000, 100, 0, 4}, true));
+    EXPECT_TRUE(drag.takeUp({1200, 100, 0, 3}, true));
+    EXPECT_FALSE(drag.takeUp({2000, 100, 0, 4}, true));
     EXPECT_EQ(drag.DragCol, 3);
 }
 
 TEST(ColumnDrag, TakesNothingUpWithoutTheLeftButtonAlone) {
     ColumnDrag drag = pressed();
-    EXPECT_FALSE(takesColumnUp(drag, {1200, 100, 0, 3}, false));
+    EXPECT_FALSE(drag.takeUp({1200, 100, 0, 3}, false));
     EXPECT_EQ(drag.DragCol, -1);
 }
 
 TEST(ColumnDrag, TakesNothingUpAwayFromTheHeader) {
     ColumnDrag drag = pressed();
-    EXPECT_FALSE(takesColumnUp(drag, {1200, 500, 1, 3}, true));
-    EXPECT_TRUE(takesColumnUp(drag, {1200, 100, 0, 3}, true));
+    EXPECT_FALSE(drag.takeUp({1200, 500, 1, 3}, true));
+    EXPECT_TRUE(drag.takeUp({1200, 100, 0, 3}, true));
 }
 
 // Beside the last column that is shown, the mouse is over the hidden one.
 TEST(ColumnDrag, NeverTakesTheHiddenColumnUp) {
     ColumnDrag drag = pressed();
-    EXPECT_FALSE(takesColumnUp(drag, {kPress.x + 100, kPress.y, 0, kHiddenColumn}, true));
+    EXPECT_FALSE(drag.takeUp({kPress.x + 100, kPress.y, 0, kHiddenColumn}, true));
     EXPECT_EQ(drag.DragCol, -1);
 }
 
 TEST(ColumnDrag, TakesNothingUpOnceTheButtonIsLetGo) {
     ColumnDrag drag = pressed();
-    release(drag);
+    drag.release();
     EXPECT_FALSE(drag.DragOK);
-    EXPECT_FALSE(takesColumnUp(drag, {1200, 100, 0, 3}, true));
+    EXPECT_FALSE(drag.takeUp({1200, 100, 0, 3}, true));
 }
 
-TEST(DropOf, MovesAColumnToWhereTheMouseIsOverTheHeader) {
+TEST(ColumnDrag, MovesAColumnToWhereTheMouseIsOverTheHeader) {
     for (const int column : {0, 2, 4})
-        EXPECT_EQ(dropOf({.DragCol = 2}, 0, column), ColumnDrop::Moves) << column;
+        EXPECT_EQ(ColumnDrag{.DragCol = 2}.dropAt(0, column), ColumnDrop::Moves) << column;
 }
 
-TEST(DropOf, IsNothingAwayFromTheHeader) {
-    EXPECT_EQ(dropOf({.DragCol = 2}, 1, 0), ColumnDrop::Nothing);
-    EXPECT_EQ(dropOf({.DragCol = 2}, 1, kHiddenColumn), ColumnDrop::Nothing);
+TEST(ColumnDrag, DropsNothingAwayFromTheHeader) {
+    EXPECT_EQ(ColumnDrag{.DragCol = 2}.dropAt(1, 0), ColumnDrop::Nothing);
+    EXPECT_EQ(ColumnDrag{.DragCol = 2}.dropAt(1, kHiddenColumn), ColumnDrop::Nothing);
 }
 
-TEST(DropOf, IsNothingWhereNoColumnWasTakenUp) {
-    EXPECT_EQ(dropOf({}, 0, 0), ColumnDrop::Nothing);
-    EXPECT_EQ(dropOf({}, 0, kHiddenColumn), ColumnDrop::Nothing);
+TEST(ColumnDrag, DropsNothingWhereNoColumnWasTakenUp) {
+    EXPECT_EQ(ColumnDrag{}.dropAt(0, 0), ColumnDrop::Nothing);
+    EXPECT_EQ(ColumnDrag{}.dropAt(0, kHiddenColumn), ColumnDrop::Nothing);
 }
 
-TEST(DropOf, TellsTheHiddenColumnFromTheOthers) {
-    EXPECT_EQ(dropOf({.DragCol = 2}, 0, kHiddenColumn), ColumnDrop::OnHidden);
+TEST(ColumnDrag, TellsTheHiddenColumnFromTheOthers) {
+    EXPECT_EQ(ColumnDrag{.DragCol = 2}.dropAt(0, kHiddenColumn), ColumnDrop::OnHidden);
 }

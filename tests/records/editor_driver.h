@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QCoreApplication>
+#include <QDir>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -31,7 +32,7 @@ class EditorTest : public MainWindowTest {
         return *editor_;
     }
 
-    // Shows it on a person, as the explorer does.
+    // Shows it on the person who is handed over.
     Editor& openOn(Long nameId) {
         modCycles::SelectedNameID = nameId;
         return open();
@@ -95,6 +96,11 @@ class EditorTest : public MainWindowTest {
     // The main window's list, and whether it still shows the person who was chosen.
     ListBox& people() { return control<ListBox>("lstMain"); }
     bool isSomebodyChosen() { return people().ListIndex() != -1; }
+
+    // What an error of the person database says of its cause.
+    QString aboutPeople(const QString& cause) const {
+        return cause + QStringLiteral(", ") + QDir::toNativeSeparators(directory_.people());
+    }
 
     // Expects the trap's box.
     void expectTrap(const QString& description) {

@@ -167,13 +167,27 @@ TEST_F(PersonEdit, LetsTheListOfCategoriesFollowTheNumber) {
 TEST_F(PersonEdit, LeavesTheListOfCategoriesForANumberOfNoneAndForNoNumber) {
     open();
     press("cmdEdit");
-    for (const char* number : {"99", "abc", "99999999999", "1.5"}) {
+    for (const char* number : {"99", "abc", "99999999999", ".5", ""}) {
         enter("txtFields_4", QString::fromLatin1(number));
         EXPECT_EQ(textOf("txtFields_4"), QString::fromLatin1(number));
+        EXPECT_EQ(in<ComboBox>("cbAddCat").Text(), QStringLiteral("Friends")) << number;
     }
-    enter("txtFields_4", QString());
     EXPECT_EQ(in<ComboBox>("cbAddCat").ListCount(), 2);
-    EXPECT_NE(in<ComboBox>("cbAddCat").ListIndex(), -1);
+}
+
+TEST_F(PersonEdit, LeavesTheCursorInTheNumberThatIsTyped) {
+    Long last = 0;
+    while (last < 12)
+        last = addCategory(QStringLiteral("Category"));
+    open();
+    press("cmdEdit");
+    enter("txtFields_4", QStringLiteral("2"));
+    auto& box = in<QLineEdit>("txtFields_4");
+    box.setCursorPosition(0);
+    type(box, QStringLiteral("1"));
+    EXPECT_EQ(box.text(), QStringLiteral("12"));
+    EXPECT_EQ(box.cursorPosition(), 1);
+    EXPECT_EQ(in<ComboBox>("cbAddCat").Text(), QStringLiteral("Category"));
 }
 
 TEST_F(PersonEdit, AddsAPersonOfTheFirstCategory) {
@@ -228,14 +242,13 @@ TEST_F(PersonEdit, AddsSeveralPeopleOneAfterAnother) {
 TEST_F(PersonEdit, AddsToAnEmptyTable) {
     load();
     runOnStore("DELETE FROM Data");
-    frmAdd form(&window());
-    form.Show();
-    child<QAbstractButton>(form, QStringLiteral("cmdAdd")).click();
-    EXPECT_TRUE(form.mbAddNewFlag);
-    EXPECT_EQ(form.mvBookMark, 0);
-    child<QLineEdit>(form, QStringLiteral("txtFields_0")).setText(QStringLiteral("Moss"));
-    pressKey(child<DatePicker>(form, QStringLiteral("dtpBirthday")), Qt::Key_Up);
-    child<QAbstractButton>(form, QStringLiteral("cmdUpdate")).click();
+    open();
+    press("cmdAdd");
+    EXPECT_TRUE(editor().mbAddNewFlag);
+    EXPECT_EQ(editor().mvBookMark, 0);
+    enter("txtFields_0", QStringLiteral("Moss"));
+    pressKey(in<DatePicker>("dtpBirthday"), Qt::Key_Up);
+    press("cmdUpdate");
     EXPECT_EQ(peopleStored(), Value(1));
 }
 
@@ -243,12 +256,11 @@ TEST_F(PersonEdit, SaysThatThereIsNoFirstCategoryAndGoesOnAdding) {
     load();
     runOnStore("DELETE FROM Data");
     runOnStore("DELETE FROM Category");
-    frmAdd form(&window());
-    form.Show();
+    open();
     expectTrap(QStringLiteral("Invalid property value"));
-    child<QAbstractButton>(form, QStringLiteral("cmdAdd")).click();
-    EXPECT_TRUE(form.mbAddNewFlag);
-    EXPECT_TRUE(child<QWidget>(form, QStringLiteral("cmdUpdate")).isVisible());
+    press("cmdAdd");
+    EXPECT_TRUE(editor().mbAddNewFlag);
+    EXPECT_TRUE(isEditing());
 }
 
 TEST_F(PersonEdit, LeavesWhatWasTypedPendingWhenAButtonOfTheAlphabetLeadsAway) {
@@ -327,13 +339,12 @@ TEST_F(PersonEdit, ListsThePeopleAloneWhenItCloses) {
     load();
     auto& filter = control<ComboBox>("cbCategory");
     filter.setText(QStringLiteral("Family"));
-    frmAdd form(&window());
-    form.Show();
-    child<QAbstractButton>(form, QStringLiteral("cmdEdit")).click();
-    child<QLineEdit>(form, QStringLiteral("txtFields_1")).setText(QStringLiteral("Benjamin"));
-    child<QAbstractButton>(form, QStringLiteral("cmdUpdate")).click();
+    open();
+    press("cmdEdit");
+    enter("txtFields_1", QStringLiteral("Benjamin"));
+    press("cmdUpdate");
     EXPECT_EQ(people().ListCount(), 1);
-    form.Unload();
+    close();
     EXPECT_EQ(filter.Text(), QStringLiteral("Family"));
     ASSERT_EQ(people().ListCount(), 3);
     EXPECT_EQ(people().List(0), QStringLiteral("Adler, Benjamin"));

@@ -2,9 +2,7 @@
 #include <SQLiteCpp/Database.h>
 #include <sqlite3.h>
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 #include "controls/date_picker.h"
 #include "controls/multi_line_text_box.h"
@@ -35,11 +33,6 @@ class FullDisk {
 class PersonManagerThatFails : public EditorTest<frmAdd> {
   protected:
     QString name() { return textOf("txtFields_0"); }
-
-    QString in(const QString& cause) {
-        return cause + QStringLiteral(", ") + QDir::toNativeSeparators(directory_.people());
-    }
-    using EditorTest::in;
 
     // Presses Update and expects the trap's box; the edit goes on.
     void expectFailure(const QString& description) {
@@ -73,7 +66,7 @@ TEST_F(PersonManagerThatFails, SaysThatANewPersonHasNoName) {
     press("cmdAdd");
     enter("txtFields_1", QStringLiteral("Nobody"));
     pressKey(in<DatePicker>("dtpBirthday"), Qt::Key_Up);
-    expectFailure(in(kRefused + QStringLiteral("Data.Name has no value")));
+    expectFailure(aboutPeople(kRefused + QStringLiteral("Data.Name has no value")));
     EXPECT_EQ(textOf("txtFields_1"), QStringLiteral("Nobody"));
     EXPECT_EQ(status(), QStringLiteral("Add record"));
     expectStoredAsBefore();
@@ -83,7 +76,7 @@ TEST_F(PersonManagerThatFails, SaysThatANewPersonHasNoBirthDate) {
     open();
     press("cmdAdd");
     enter("txtFields_0", kTyped);
-    expectFailure(in(kRefused + QStringLiteral("Data.Birthdate has no value")));
+    expectFailure(aboutPeople(kRefused + QStringLiteral("Data.Birthdate has no value")));
     EXPECT_EQ(name(), kTyped);
     expectStoredAsBefore();
 }
@@ -91,7 +84,7 @@ TEST_F(PersonManagerThatFails, SaysThatANewPersonHasNoBirthDate) {
 TEST_F(PersonManagerThatFails, ChecksNothingItselfWhereEverythingIsEmpty) {
     open();
     press("cmdAdd");
-    expectFailure(in(kRefused + QStringLiteral("Data.Name has no value")));
+    expectFailure(aboutPeople(kRefused + QStringLiteral("Data.Name has no value")));
     expectStoredAsBefore();
 }
 
@@ -99,7 +92,7 @@ TEST_F(PersonManagerThatFails, SaysThatANameWasTakenAway) {
     open();
     press("cmdEdit");
     enter("txtFields_0", QString());
-    expectFailure(in(kRefused + QStringLiteral("Data.Name has no value")));
+    expectFailure(aboutPeople(kRefused + QStringLiteral("Data.Name has no value")));
     EXPECT_EQ(name(), QString());
     expectStoredAsBefore();
 }
@@ -109,8 +102,8 @@ TEST_F(PersonManagerThatFails, SaysThatThereIsNoSuchCategory) {
         open();
         press("cmdEdit");
         enter("txtFields_4", QString::fromLatin1(number));
-        expectFailure(
-            in(kRefused + QStringLiteral("the row refers to another that does not exist")));
+        expectFailure(aboutPeople(kRefused +
+                                  QStringLiteral("the row refers to another that does not exist")));
         EXPECT_EQ(textOf("txtFields_4"), QString::fromLatin1(number));
         EXPECT_EQ(stored("SELECT CatID FROM Data WHERE Name = 'Adler'"), Value(friends_));
     }
@@ -120,14 +113,15 @@ TEST_F(PersonManagerThatFails, SaysThatTheCategoryIsGone) {
     beginToEdit();
     in<ComboBox>("cbAddCat").setText(QStringLiteral("Family"));
     runOnStore("DELETE FROM Category WHERE Category = 'Family'");
-    expectFailure(in(kRefused + QStringLiteral("the row refers to another that does not exist")));
+    expectFailure(
+        aboutPeople(kRefused + QStringLiteral("the row refers to another that does not exist")));
 }
 
 TEST_F(PersonManagerThatFails, WritesWhatIsCorrectedAfterARefusal) {
     open();
     press("cmdAdd");
     enter("txtFields_0", QStringLiteral("Moss"));
-    expectFailure(in(kRefused + QStringLiteral("Data.Birthdate has no value")));
+    expectFailure(aboutPeople(kRefused + QStringLiteral("Data.Birthdate has no value")));
     pressKey(in<DatePicker>("dtpBirthday"), Qt::Key_Up);
     press("cmdUpdate");
     EXPECT_FALSE(isEditing());
@@ -138,7 +132,7 @@ TEST_F(PersonManagerThatFails, WritesNothingOfTheOtherRowsWhereOneIsRefused) {
     beginToEdit();
     press("cmdAlphabet_9");
     enter("txtFields_0", QString());
-    expectFailure(in(kRefused + QStringLiteral("Data.Name has no value")));
+    expectFailure(aboutPeople(kRefused + QStringLiteral("Data.Name has no value")));
     expectStoredAsBefore();
 }
 
@@ -174,7 +168,7 @@ TEST_F(PersonManagerThatFails, SaysThatAnotherProcessHoldsTheDatabase) {
     beginToEdit();
     SQLite::Database other(directory_.people().toStdString(), SQLite::OPEN_READWRITE);
     other.exec("BEGIN EXCLUSIVE");
-    expectFailure(in(QStringLiteral("Permission denied: database is locked")));
+    expectFailure(aboutPeople(QStringLiteral("Permission denied: database is locked")));
     EXPECT_EQ(name(), kTyped);
     other.exec("COMMIT");
     expectStoredAsBefore();
@@ -187,7 +181,7 @@ TEST_F(PersonManagerThatFails, BeginsNoEditWhileAnotherProcessHoldsTheDatabase) 
     SQLite::Database other(directory_.people().toStdString(), SQLite::OPEN_READWRITE);
     other.exec("BEGIN EXCLUSIVE");
     for (const char* start : {"cmdEdit", "cmdAdd"}) {
-        expectTrap(in(QStringLiteral("Permission denied: database is locked")));
+        expectTrap(aboutPeople(QStringLiteral("Permission denied: database is locked")));
         press(start);
         EXPECT_FALSE(isEditing());
     }
@@ -201,7 +195,7 @@ TEST_F(PersonManagerThatFails, SaysThatTheDiskIsFull) {
     press("cmdEdit");
     const QString longText(100'000, u'x');
     in<MultiLineTextBox>("txtFields_5").setText(longText);
-    expectFailure(in(QStringLiteral("Disk full: database or disk is full")));
+    expectFailure(aboutPeople(QStringLiteral("Disk full: database or disk is full")));
     EXPECT_EQ(in<MultiLineTextBox>("txtFields_5").Text(), longText);
     EXPECT_TRUE(stored("SELECT Notes FROM Data WHERE Name = 'Adler'").isNull());
     expectStoredAsBefore();
@@ -210,8 +204,9 @@ TEST_F(PersonManagerThatFails, SaysThatTheDiskIsFull) {
 TEST_F(PersonManagerThatFails, EndsTheProgramWhereTheDatabaseIsGoneWhenItIsOpened) {
     load();
     QFile::remove(directory_.people());
-    host_.expectMessage(QStringLiteral("Run-time error '53':\n\n") +
-                        in(QStringLiteral("File not found: there is no file of this name")));
+    host_.expectMessage(
+        QStringLiteral("Run-time error '53':\n\n") +
+        aboutPeople(QStringLiteral("File not found: there is no file of this name")));
     frmAdd form(&window());
     runEvent([&] { form.Show(); });
     EXPECT_EQ(host_.exitCode(), 1);

@@ -5,6 +5,8 @@
 #include "controls/multi_line_text_box.h"
 #include "cycles/calendar.h"
 #include "records/editor_driver.h"
+#include "shell/default_instance.h"
+#include "shell/frmWait.h"
 
 using modCycles::DateSerial;
 
@@ -113,6 +115,19 @@ TEST_F(PersonManager, OpensOnThePersonWhoIsHandedOver) {
     EXPECT_EQ(modCycles::SelectedNameID, nameId);
 }
 
+TEST_F(PersonManager, KeepsTheWaitWindowUntilThePersonHasBeenFound) {
+    load();
+    showWaitWindow();
+    QString nameMeanwhile;
+    modCycles::SelectedNameID = addPerson({.name = QStringLiteral("Moss")});
+    frmAdd form(&window());
+    QObject::connect(&defaultInstance<frmWait>(), &Form::unloaded, &form, [&] {
+        nameMeanwhile = child<QLineEdit>(form, QStringLiteral("txtFields_0")).text();
+    });
+    form.Show();
+    EXPECT_EQ(nameMeanwhile, QStringLiteral("Moss"));
+}
+
 TEST_F(PersonManager, OpensWithTheGenderOfTheFirstPersonWhoeverIsHandedOver) {
     openOn(addPerson({.name = QStringLiteral("Moss"), .isFemale = true}));
     EXPECT_TRUE(in<QCheckBox>("chkGender").isChecked());
@@ -181,10 +196,9 @@ TEST_F(PersonManager, KeepsTheGenderOfWhoWasShownBeforeAButtonOfTheAlphabet) {
 TEST_F(PersonManager, EndsTheProgramByAButtonOfTheAlphabetInAnEmptyTable) {
     load();
     runOnStore("DELETE FROM Data");
-    frmAdd form(&window());
-    form.Show();
+    open();
     host_.expectMessage(noCurrentRecordBox());
-    click(child<QWidget>(form, QStringLiteral("cmdAlphabet_0")));
+    press("cmdAlphabet_0");
     EXPECT_EQ(host_.exitCode(), 1);
     host_.forgetExit();
 }

@@ -3,8 +3,6 @@
 
 #include <SQLiteCpp/Database.h>
 
-#include <QDir>
-
 #include "records/deletion_messages.h"
 #include "records/editor_driver.h"
 
@@ -23,11 +21,6 @@ class CategoryManager : public EditorTest<frmCategory> {
                             answer);
         press("cmdDelete");
     }
-
-    QString in(const QString& cause) {
-        return cause + QStringLiteral(", ") + QDir::toNativeSeparators(directory_.people());
-    }
-    using EditorTest::in;
 };
 
 TEST_F(CategoryManager, ShowsTheCategoriesInOrder) {
@@ -168,11 +161,9 @@ TEST_F(CategoryManager, LeavesEverybodyElseInTheMainListWhenItCloses) {
     load();
     auto& filter = control<ComboBox>("cbCategory");
     filter.setText(QStringLiteral("Friends"));
-    frmCategory form(&window());
-    form.Show();
-    host_.expectMessage(categoryDeletionQuestion(1, QStringLiteral("Family")).text, Answer::Yes);
-    child<QAbstractButton>(form, QStringLiteral("cmdDelete")).click();
-    form.Unload();
+    open();
+    answerDeletion(1, "Family", Answer::Yes);
+    close();
     EXPECT_EQ(filter.Text(), QStringLiteral("*"));
     ASSERT_EQ(people().ListCount(), 2);
     EXPECT_EQ(people().List(0), QStringLiteral("Adler, Ben"));
@@ -206,8 +197,8 @@ TEST_F(CategoryManager, SaysThatACategoryHasNoNameAndGoesOnEditing) {
     open();
     press("cmdAdd");
     expectTrap(
-        in(QStringLiteral("Data value conflicts with the integrity constraints of the "
-                          "field: Category.Category has no value")));
+        aboutPeople(QStringLiteral("Data value conflicts with the integrity constraints of the "
+                                   "field: Category.Category has no value")));
     press("cmdUpdate");
     EXPECT_TRUE(isEditing());
     EXPECT_EQ(categoriesStored(), Value(2));
@@ -235,7 +226,7 @@ TEST_F(CategoryManager, DeletesNobodyWhileAnotherProcessHoldsTheDatabase) {
     SQLite::Database other(directory_.people().toStdString(), SQLite::OPEN_READWRITE);
     other.exec("BEGIN IMMEDIATE");
     host_.expectMessage(categoryDeletionQuestion(1, QStringLiteral("Family")).text, Answer::Yes);
-    expectTrap(in(QStringLiteral("Permission denied: database is locked")));
+    expectTrap(aboutPeople(QStringLiteral("Permission denied: database is locked")));
     press("cmdDelete");
     other.exec("COMMIT");
     EXPECT_EQ(name(), QStringLiteral("Family"));
@@ -247,11 +238,10 @@ TEST_F(CategoryManager, DeletesNobodyWhileAnotherProcessHoldsTheDatabase) {
 TEST_F(CategoryManager, TellsThatThereIsNothingToDeleteInAnEmptyTable) {
     load();
     runOnStore("DELETE FROM Category");
-    frmCategory form(&window());
-    form.Show();
+    open();
     expectTrap(noCurrentRecord());
-    child<QAbstractButton>(form, QStringLiteral("cmdDelete")).click();
-    EXPECT_FALSE(form.mbListsStale);
+    press("cmdDelete");
+    EXPECT_FALSE(editor().mbListsStale);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 
 #include "controls/twips.h"
+#include "records/deletion_messages.h"
 #include "records/editor_driver.h"
 #include "records/frmAdd.h"
 #include "records/frmCategory.h"
@@ -24,6 +25,7 @@ struct Rows<frmAdd> {
     static constexpr const char* kSecond = "Smith";
     static constexpr const char* kLast = "Zed";
     static constexpr const char* kDeleteAll = "DELETE FROM Data";
+    static Message questionOfTheFirst() { return personDeletionQuestion(); }
 };
 
 template <>
@@ -33,6 +35,9 @@ struct Rows<frmCategory> {
     static constexpr const char* kSecond = "Friends";
     static constexpr const char* kLast = "Work";
     static constexpr const char* kDeleteAll = "DELETE FROM Category";
+    static Message questionOfTheFirst() {
+        return categoryDeletionQuestion(1, QString::fromLatin1(kFirst));
+    }
 };
 
 template <class Editor>
@@ -247,40 +252,27 @@ TYPED_TEST(EveryEditor, StaysAtCancelWhereTheRowToGoBackToIsGone) {
     this->open();
     this->press("cmdAdd");
     this->press("cmdCancel");
-    const Answer yes = Answer::Yes;
-    this->host_.expectMessage(
-        std::is_same_v<TypeParam, frmAdd>
-            ? QStringLiteral("Are you sure?")
-            : QStringLiteral("WARNING: Deleting a category will not only remove the category from "
-                             "the database, but also all records associated with that category!"
-                             "\n\nFor instance: deleting a category 'Family' will also delete all "
-                             "family members from the database.\n\nThere are 1 records associated "
-                             "with Family.\nAre you sure you want to delete this category?"),
-        yes);
+    this->host_.expectMessage(Rows<TypeParam>::questionOfTheFirst().text, Answer::Yes);
     this->press("cmdDelete");
     this->press("cmdLast");
     this->press("cmdEdit");
     this->enterName("typed");
     this->press("cmdCancel");
     EXPECT_FALSE(this->isEditing());
-    EXPECT_EQ(this->name(), QString::fromLatin1(Rows<TypeParam>::kLast));
+    this->expectRow(Rows<TypeParam>::kLast, 2);
     EXPECT_FALSE(this->editor().mbListsStale);
 }
 
 TYPED_TEST(EveryEditor, TellsOfAMoveThatIsImpossibleInAnEmptyTable) {
     this->load();
     this->runOnStore(Rows<TypeParam>::kDeleteAll);
-    TypeParam form(&this->window());
-    form.Show();
-    const auto press = [&](const char* arrow) {
-        child<QAbstractButton>(form, QString::fromLatin1(arrow)).click();
-    };
+    this->open();
     for (const char* arrow : {"cmdFirst", "cmdLast"}) {
         this->expectTrap(noCurrentRecord());
-        press(arrow);
+        this->press(arrow);
     }
     for (const char* arrow : {"cmdPrevious", "cmdNext"})
-        press(arrow);
+        this->press(arrow);
     EXPECT_EQ(this->host_.messages().size(), 2U);
     EXPECT_EQ(this->host_.beeps(), 0);
 }
@@ -288,19 +280,16 @@ TYPED_TEST(EveryEditor, TellsOfAMoveThatIsImpossibleInAnEmptyTable) {
 TYPED_TEST(EveryEditor, CancelsAnAdditionToAnEmptyTableWithoutABox) {
     this->load();
     this->runOnStore(Rows<TypeParam>::kDeleteAll);
-    TypeParam form(&this->window());
-    form.Show();
-    const auto press = [&](const char* button) {
-        child<QAbstractButton>(form, QString::fromLatin1(button)).click();
-    };
-    press("cmdAdd");
-    form.mbDataChanged = true;
-    form.mbListsStale = true;
-    press("cmdCancel");
-    EXPECT_FALSE(form.mbAddNewFlag);
-    EXPECT_FALSE(form.mbDataChanged);
-    EXPECT_FALSE(form.mbListsStale);
-    EXPECT_TRUE(child<QWidget>(form, QStringLiteral("cmdAdd")).isVisible());
+    this->open();
+    this->press("cmdAdd");
+    this->editor().mbDataChanged = true;
+    this->editor().mbListsStale = true;
+    this->press("cmdCancel");
+    EXPECT_FALSE(this->isEditing());
+    EXPECT_FALSE(this->editor().mbAddNewFlag);
+    EXPECT_FALSE(this->editor().mbDataChanged);
+    EXPECT_FALSE(this->editor().mbListsStale);
+    EXPECT_EQ(this->status(), QStringLiteral("Record: -1"));
     EXPECT_TRUE(this->host_.messages().empty());
 }
 
@@ -342,6 +331,21 @@ TYPED_TEST(EveryEditor, WritesNothingThatIsPendingWhenItsWindowIsClosedDuringAnE
     this->expectFirst();
 }
 
+TYPED_TEST(EveryEditor, BrowsesAgainWhenItIsLoadedAnewAfterAnEdit) {
+    this->open();
+    this->press("cmdNext");
+    this->press("cmdAdd");
+    this->enterName("typed");
+    this->editor().close();
+    this->editor().Show();
+    EXPECT_FALSE(this->isEditing());
+    EXPECT_FALSE(this->editor().mbAddNewFlag);
+    EXPECT_EQ(this->editor().mvBookMark, 0);
+    this->expectFirst();
+    this->enterName("locked");
+    this->expectFirst();
+}
+
 TYPED_TEST(EveryEditor, HoldsNoLockWhileItIsOpen) {
     this->open();
     this->press("cmdEdit");
@@ -362,6 +366,9 @@ TYPED_TEST(EveryEditor, HasItsNavigatorAlongItsLowerEdge) {
         EXPECT_EQ(status.width(), width - toPixels(1500));
         EXPECT_EQ(next.left() - first.left(), status.width() + toPixels(700));
         EXPECT_EQ(last.left(), next.left() + toPixels(340));
+        const auto& navigator = this->template in<QWidget>("cmdLast");
+        EXPECT_EQ(navigator.mapTo(&this->editor(), QPoint(0, navigator.height())).y(),
+                  this->editor().height() - 4);
     }
 }
 

@@ -75,3 +75,9 @@ TEST(IsNullOrEmpty, HoldsForNullAndTheEmptyTextButNotForABlankOrANumber) {
     EXPECT_FALSE(isNullOrEmpty(Value(QStringLiteral(" "))));
     EXPECT_FALSE(isNullOrEmpty(Value(0)));
 }
+
+TEST(TextOrNothing, IsNothingForNullAlone) {
+    EXPECT_EQ(textOrNothing(Value()), QString());
+    EXPECT_EQ(textOrNothing(Value(QStringLiteral(" a"))), QStringLiteral(" a"));
+    EXPECT_EQ(errorOf([] { (void)textOrNothing(Value(1)); }), 13);
+}

@@ -18,10 +18,11 @@ std::string nameOf(const QObject& control) {
     return control.objectName().toStdString();
 }
 
-// A control of the form, and no part that Qt made a control of, that the Tab key can reach.
+// A control of the form, and no part that Qt made a control of, that the Tab key can reach. One
+// that hands the focus on to a part of itself is not reached, but the part is.
 bool isTabStop(const QWidget& widget) {
     const QString name = widget.objectName();
-    return widget.focusPolicy() & Qt::TabFocus && !name.isEmpty() &&
+    return widget.focusPolicy() & Qt::TabFocus && !widget.focusProxy() && !name.isEmpty() &&
            !name.startsWith(QStringLiteral("qt_"));
 }
 

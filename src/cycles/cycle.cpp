@@ -8,8 +8,8 @@ namespace modCycles {
 namespace {
 
 // A remainder and an offset of 16 bits never leave the 32 bits of their sum.
-double percentAt(Long days, Integer offset, Long length, double factor) {
-    return std::sin((days % length + offset) * factor) * 100;
+double sineAt(Long days, Integer offset, Long length, double factor) {
+    return std::sin((days % length + offset) * factor);
 }
 
 double compatibilityPercent(Long dayDifference, Long length) {
@@ -22,14 +22,18 @@ double compatibilityPercent(Long dayDifference, Long length) {
 
 }  // namespace
 
-double CalcCycle(Long days, Integer offset, std::string_view key) {
+double cycleSine(Long days, Integer offset, std::string_view key) {
     if (key == kEmotionalKey)
-        return percentAt(days, offset, kEmotionalLength, EmotionalFactor);
+        return sineAt(days, offset, kEmotionalLength, EmotionalFactor);
     if (key == kPhysicalKey)
-        return percentAt(days, offset, kPhysicalLength, PhysicalFactor);
+        return sineAt(days, offset, kPhysicalLength, PhysicalFactor);
     if (key == kIntellectualKey)
-        return percentAt(days, offset, kIntellectualLength, IntellectualFactor);
+        return sineAt(days, offset, kIntellectualLength, IntellectualFactor);
     return 0.0;
+}
+
+double CalcCycle(Long days, Integer offset, std::string_view key) {
+    return cycleSine(days, offset, key) * 100;
 }
 
 CycleValues CalcCycles(Long days, Integer offset) {

@@ -33,9 +33,12 @@ inline constexpr Integer kEmotionalIndex = 0;
 inline constexpr Integer kPhysicalIndex = 1;
 inline constexpr Integer kIntellectualIndex = 2;
 
-// The value of a cycle, -100.0 to 100.0, unrounded, `offset` days after the day count `days`. The
-// offset is added after the remainder is taken and not reduced again, so a whole chart takes one
-// day count. A key other than the three, letter for letter, gives 0.0.
+// The sine of a cycle's angle, -1.0 to 1.0, `offset` days after the day count `days`. The offset is
+// added after the remainder is taken and not reduced again, so a whole chart takes one day count. A
+// key other than the three, letter for letter, gives 0.0.
+double cycleSine(Long days, Integer offset, std::string_view key);
+
+// The value of a cycle, -100.0 to 100.0, unrounded: the sine as a percentage.
 double CalcCycle(Long days, Integer offset, std::string_view key);
 
 // The three values of a day.

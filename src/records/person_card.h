@@ -21,10 +21,6 @@ struct PersonCard {
 // birth that is Null. Notes may be Null, which is no note.
 PersonCard personCard(const Recordset& person, Date today);
 
-// The age in years on a day; negative before the birth. Somebody born on 29 February grows older on
-// 1 March of a common year.
-Long ageOn(Date today, Date birthdate);
-
 // The full name with the age behind it, in brackets. Blanks are taken away at the ends of the
 // whole alone. The first name may be Null or empty.
 QString cardName(const Value& firstName, const Value& name, Long age);

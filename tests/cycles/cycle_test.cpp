@@ -77,6 +77,14 @@ TEST(CalcCycle, HasThePrintedValuesInEveryBit) {
     EXPECT_EQ(CalcCycle(10000, 7, "intel"), 99.88673391830079);
 }
 
+TEST(CycleSine, IsTheValueBeforeItBecomesAPercentage) {
+    for (const std::string_view key : {kEmotionalKey, kPhysicalKey, kIntellectualKey})
+        for (Integer day = 0; day < 100; ++day)
+            EXPECT_EQ(cycleSine(10000, day, key) * 100, CalcCycle(10000, day, key));
+    EXPECT_EQ(cycleSine(7, 0, kEmotionalKey), std::sin(7 * EmotionalFactor));
+    EXPECT_EQ(cycleSine(7, 0, "average"), 0.0);
+}
+
 TEST(CalcCycle, KnowsItsKeysLetterForLetter) {
     for (const auto key : {"Emot", "EMOT", "", "average", "emo", "emot ", "Phys", "Intel"})
         EXPECT_EQ(CalcCycle(10000, 0, key), 0.0) << key;

@@ -20,6 +20,13 @@ void DateControl::setValue(Date value) {
     showValue(toQDate(value_));
 }
 
+void DateControl::setDay(Integer day) {
+    const Date lastOfMonth = modCycles::DateSerial(Year(), Month() + 1, 0);
+    if (day < 1 || day > modCycles::Day(lastOfMonth))
+        throw RuntimeError(ErrorNumber::InvalidPropertyValue);
+    setValue(modCycles::DateSerial(Year(), Month(), day));
+}
+
 void DateControl::setMinDate(Date minDate) {
     const Date day = withoutTime(minDate);
     if (day < modCycles::kEarliestCalendarDate)

@@ -19,7 +19,9 @@ class DateControl {
     // Raises 380 for a day before 1753.
     void setMinDate(Date minDate);
 
+    // Setting the day keeps month and year, and raises 380 if the month has no such day.
     Integer Day() const { return modCycles::Day(value_); }
+    void setDay(Integer day);
     Integer Month() const { return modCycles::Month(value_); }
     Integer Year() const { return modCycles::Year(value_); }
 

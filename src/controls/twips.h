@@ -4,8 +4,8 @@
 inline constexpr int kTwipsPerPixel = 15;
 
 // A length, not negative, in the nearest whole pixels.
-constexpr int toPixels(int twips) {
-    return (twips + kTwipsPerPixel / 2) / kTwipsPerPixel;
+constexpr int toPixels(double twips) {
+    return static_cast<int>((twips + kTwipsPerPixel / 2.0) / kTwipsPerPixel);
 }
 
 // A length in twips.

@@ -83,6 +83,20 @@ TYPED_TEST(DateControls, DropTheTimeOfAValue) {
     this->expectDay(DateSerial(2000, 3, 14));
 }
 
+TYPED_TEST(DateControls, ChangeTheDayWithinTheMonthAndFireNothing) {
+    this->control_.setDay(1);
+    this->expectDay(DateSerial(2000, 3, 1));
+    this->control_.setDay(31);
+    this->expectDay(DateSerial(2000, 3, 31));
+}
+
+TYPED_TEST(DateControls, RefuseADayThatTheMonthDoesNotHave) {
+    this->control_.setValue(DateSerial(2001, 2, 14));
+    for (const Integer day : {Integer{0}, Integer{29}, Integer{32}})
+        EXPECT_EQ(errorOf([&] { this->control_.setDay(day); }), 380);
+    this->expectDay(DateSerial(2001, 2, 14));
+}
+
 TYPED_TEST(DateControls, RaiseTheValueToAMinDateAboveIt) {
     this->control_.setMinDate(DateSerial(2005, 6, 1));
     this->expectDay(DateSerial(2005, 6, 1));

@@ -8,6 +8,8 @@ TEST(Twips, BecomeTheNearestWholePixels) {
     EXPECT_EQ(toPixels(3700), 247);
     EXPECT_EQ(toPixels(7), 0);
     EXPECT_EQ(toPixels(8), 1);
+    EXPECT_EQ(toPixels(7.4), 0);
+    EXPECT_EQ(toPixels(7.6), 1);
 }
 
 TEST(Twips, AreFifteenToThePixel) {

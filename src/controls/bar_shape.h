@@ -1,0 +1,33 @@
+// A bar of a certain length at a certain place of its window.
+#pragma once
+
+#include <QWidget>
+#include <optional>
+
+#include "controls/cycle_colours.h"
+
+// Paints as much of the bar as lies within the widget, over the widget's whole height. Left and
+// Width are twips and count from the left edge of the window, wherever the widget lies there, so
+// bars in several rows of a layout hang on one line. It has a cycle's colour, or else that of
+// lines.
+class BarShape final : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit BarShape(QWidget* parent = nullptr);
+
+    double Left() const { return left_; }
+    void setLeft(double left);
+    double Width() const { return width_; }
+    void setWidth(double width);
+
+    void setColour(CycleColour colour);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    double left_ = 0;
+    double width_ = 0;
+    std::optional<CycleColour> colour_;
+};

@@ -1,0 +1,49 @@
+// A box with a text in several styles, which the user reads.
+#pragma once
+
+#include <QTextEdit>
+
+#include "cycles/integers.h"
+
+// Positions in the text count from 0, and a line end counts as one character. The selection is set
+// by SelStart and SelLength; the styles are those of the selected text. Read, a style is that of
+// the first selected character, or of the one before SelStart if none is selected.
+//
+// A colour is 0xBBGGRR. It is painted in a shade that can be read on the palette in force, and is
+// read as it was set. Tab leaves the box.
+class RichTextBox final : public QTextEdit {
+    Q_OBJECT
+
+  public:
+    explicit RichTextBox(QWidget* parent = nullptr);
+
+    // The lines of the text end in CR LF, but for the last, whatever the system.
+    QString Text() const;
+
+    // Replaces the text; it stands in the box's own style, and nothing is selected.
+    void setText(const QString& text);
+
+    // Setting SelStart selects nothing; beyond the text it is the end. Both raise 380 for a
+    // negative value.
+    int SelStart() const { return textCursor().selectionStart(); }
+    void setSelStart(int start);
+    int SelLength() const { return textCursor().selectionEnd() - textCursor().selectionStart(); }
+    void setSelLength(int length);
+
+    bool SelBold() const;
+    void setSelBold(bool bold);
+
+    // In points.
+    double SelFontSize() const;
+    void setSelFontSize(double points);
+
+    Long SelColor() const;
+    void setSelColor(Long colour);
+
+  protected:
+    void changeEvent(QEvent* event) override;
+
+  private:
+    QTextCharFormat selectedFormat() const;
+    void followPalette();
+};

@@ -1,0 +1,42 @@
+// The legible shades of text_colours.h.
+#include "controls/text_colours.h"
+
+#include <QPalette>
+#include <algorithm>
+#include <cmath>
+
+#include "controls/cell_colours.h"
+#include "controls/colour_mix.h"
+
+namespace {
+
+constexpr double kLeastContrast = 3;
+constexpr int kShades = 32;
+
+double linear(float part) {
+    return part <= 0.04045F ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+}
+
+double luminance(const QColor& colour) {
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+// As the guidelines for accessible web content define it: 1 to 21.
+double contrast(const QColor& one, const QColor& other) {
+    const auto [darker, lighter] = std::minmax(luminance(one), luminance(other));
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+}  // namespace
+
+QColor textColour(Long colour, const QPalette& palette) {
+    const QColor base = palette.color(QPalette::Base);
+    const QColor ink = palette.color(QPalette::Text);
+    if (colour == 0)
+        return ink;
+    QColor shade = colourOf(colour);
+    for (int step = 1; step <= kShades && contrast(shade, base) < kLeastContrast; ++step)
+        shade = mixed(colourOf(colour), ink, static_cast<double>(step) / kShades);
+    return shade;
+}

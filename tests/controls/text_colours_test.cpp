@@ -1,0 +1,62 @@
+// The colours of texts on light and dark.
+#include "controls/text_colours.h"
+
+#include <gtest/gtest.h>
+
+#include <QPalette>
+
+#include "controls/cell_colours.h"
+
+namespace {
+
+constexpr Long kRed = 255;
+constexpr Long kGreen = 0x00FF00;
+constexpr Long kBlue = 0xFF0000;
+
+QPalette paletteOf(const QColor& base, const QColor& ink) {
+    QPalette palette;
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::Text, ink);
+    return palette;
+}
+
+const QColor kInk(20, 30, 40);
+const QColor kChalk(230, 240, 250);
+
+QColor onLight(Long colour) {
+    return textColour(colour, paletteOf(Qt::white, kInk));
+}
+
+QColor onDark(Long colour) {
+    return textColour(colour, paletteOf(QColor(43, 43, 43), kChalk));
+}
+
+}  // namespace
+
+TEST(TextColours, AreThePalettesOwnForBlack) {
+    EXPECT_EQ(onLight(0), kInk);
+    EXPECT_EQ(onDark(0), kChalk);
+}
+
+TEST(TextColours, AreTheVeryColoursWhereTheseCanBeRead) {
+    EXPECT_EQ(onLight(kRed), QColor(Qt::red));
+    EXPECT_EQ(onLight(kBlue), QColor(Qt::blue));
+    EXPECT_EQ(onDark(kRed), QColor(Qt::red));
+    EXPECT_EQ(onDark(kGreen), QColor(Qt::green));
+}
+
+TEST(TextColours, AreDarkerWhereTheyAreTooLight) {
+    const QColor green = onLight(kGreen);
+    EXPECT_LT(green.lightness(), QColor(Qt::green).lightness());
+    EXPECT_NEAR(green.hue(), 120, 15);
+}
+
+TEST(TextColours, AreLighterWhereTheyAreTooDark) {
+    const QColor blue = onDark(kBlue);
+    EXPECT_GT(blue.lightness(), QColor(Qt::blue).lightness());
+    EXPECT_NEAR(blue.hue(), 240, 15);
+}
+
+TEST(TextColours, AreThePalettesOwnWhereNoShadeCanBeRead) {
+    EXPECT_EQ(textColour(kRed, paletteOf(Qt::red, QColor(255, 10, 0))), QColor(255, 10, 0));
+}

@@ -54,4 +54,9 @@ double CalcCompat(Long dayDifference, Integer cycleIndex) {
     }
 }
 
+CycleValues CalcCompats(Long dayDifference) {
+    return {CalcCompat(dayDifference, kEmotionalIndex), CalcCompat(dayDifference, kPhysicalIndex),
+            CalcCompat(dayDifference, kIntellectualIndex)};
+}
+
 }  // namespace modCycles

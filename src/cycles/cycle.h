@@ -41,7 +41,7 @@ double cycleSine(Long days, Integer offset, std::string_view key);
 // The value of a cycle, -100.0 to 100.0, unrounded: the sine as a percentage.
 double CalcCycle(Long days, Integer offset, std::string_view key);
 
-// The three values of a day.
+// One value for each cycle, of a day or of a comparison.
 struct CycleValues {
     double emotional;
     double physical;
@@ -58,5 +58,8 @@ CycleValues CalcCycles(Long days, Integer offset);
 // birth dates differ by whole cycles, falling in a straight line to half a cycle, then climbing.
 // `dayDifference` is a day count, never negative. An index other than the three gives 0.0.
 double CalcCompat(Long dayDifference, Integer cycleIndex);
+
+// CalcCompat for the three indexes.
+CycleValues CalcCompats(Long dayDifference);
 
 }  // namespace modCycles

@@ -231,6 +231,13 @@ TEST(CalcCompat, ClimbsInTheSecondHalfOfTheEmotionalCycleAsItsRemainderByFourtee
         EXPECT_EQ(CalcCompat(difference, 0), ((difference % 14) / 14.0) * 100) << difference;
 }
 
+TEST(CalcCompats, GivesThePercentagesOfTheThreeCycles) {
+    const CycleValues values = CalcCompats(27);
+    EXPECT_EQ(values.emotional, CalcCompat(27, 0));
+    EXPECT_EQ(values.physical, CalcCompat(27, 1));
+    EXPECT_EQ(values.intellectual, CalcCompat(27, 2));
+}
+
 TEST(CalcCompat, FallsAndClimbsInAStraightLine) {
     for (const Cycle& cycle : kCycles) {
         const double step = 200.0 / cycle.length;

@@ -44,6 +44,11 @@ Criterion::Comparison Criterion::comparisonOf(const QString& sign) {
     return sign == QStringLiteral(">") ? Comparison::Greater : Comparison::GreaterOrEqual;
 }
 
+std::optional<double> Criterion::equalNumber() const {
+    const auto* operand = std::get_if<double>(&operand_);
+    return operand && comparison_ == Comparison::Equal ? std::optional(*operand) : std::nullopt;
+}
+
 bool Criterion::isFulfilledBy(const Value& value) const {
     if (const auto* text = std::get_if<QString>(&value.content()))
         return isFulfilledBy(QByteArrayView(text->toUtf8()));

@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QString>
 #include <compare>
+#include <optional>
 #include <variant>
 
 #include "store/value.h"
@@ -17,6 +18,9 @@ class Criterion {
     explicit Criterion(const QString& criteria);
 
     const QString& field() const { return field_; }
+
+    // The number that a field must have; nothing if the criterion is not of that kind.
+    std::optional<double> equalNumber() const;
 
     bool isFulfilledBy(const Value& value) const;
     bool isFulfilledBy(double number) const;

@@ -11,6 +11,7 @@
 #include "runtime/errors.h"
 #include "store/criterion.h"
 #include "store/row_cursor.h"
+#include "store/row_index.h"
 #include "store/row_table.h"
 #include "store/row_writer.h"
 #include "store/sqlite_errors.h"
@@ -57,7 +58,11 @@ struct Recordset::Contents {
     const Value* pendingValue(RowId row, int field) const;
     bool rowFulfils(RowId row, int field, const Criterion& criterion) const;
 
-    // Raises 3251 if nothing can be written.
+    // The index on this field, if there is one.
+    const RowIndex* indexOn(int field) const;
+
+    // What comes before every change: the index would no longer hold. Raises 3251 if nothing can be
+    // written.
     RowWriter& writer();
 
     // Writes what is pending on these rows; all of it or, on an error, nothing.
@@ -73,6 +78,7 @@ struct Recordset::Contents {
     RowCursor cursor;
     std::map<RowId, PendingRow> pending;
     std::optional<RowWriter> preparedWriter;
+    std::optional<RowIndex> index;
 };
 
 Recordset::Contents::Contents(Connection& connection, SQLite::Statement& rows, LockType lock)
@@ -116,7 +122,12 @@ bool Recordset::Contents::rowFulfils(RowId row, int field, const Criterion& crit
     return fulfils(table.row(row)[field], criterion);
 }
 
+const RowIndex* Recordset::Contents::indexOn(int field) const {
+    return index && index->field() == field ? &*index : nullptr;
+}
+
 RowWriter& Recordset::Contents::writer() {
+    index.reset();
     if (!preparedWriter && lockType != adLockReadOnly) {
         auto base = raisingStoreErrors(path, [&] { return findBaseTable(database, statement); });
         if (base)
@@ -223,12 +234,28 @@ void Recordset::Find(const QString& criteria) {
     const Criterion criterion(criteria);
     const int field = set.fieldNamed(criterion.field());
     RowId row = set.currentRow();
+    const RowIndex* index = set.indexOn(field);
+    if (const auto number = criterion.equalNumber(); index && number) {
+        if (const auto found = index->find(*number, row))
+            set.cursor.moveTo(*found);
+        else
+            set.cursor.moveBehindLast();
+        return;
+    }
     while (!set.rowFulfils(row, field, criterion)) {
         set.cursor.moveBy(1);
         if (set.cursor.isBehindLast())
             return;
         row = set.currentRow();
     }
+}
+
+void Recordset::indexForFind(QStringView name) {
+    Contents& set = open();
+    const int field = set.fieldNamed(name);
+    const bool hasEveryRow = set.cursor.count() == set.table.rowCount();
+    if (set.pending.empty() && hasEveryRow)
+        set.index.emplace(set.table, field);
 }
 
 Value Recordset::Fields(QStringView name) const {

@@ -68,6 +68,11 @@ class Recordset {
     // there is no current row, 3001 for criteria it cannot read.
     void Find(const QString& criteria);
 
+    // Makes Find go straight to a number that this field is to be equal to, however many rows there
+    // are; the result is the same. It lasts until something of the set is to be changed, and there
+    // is none for a set with pending changes or without a row that it once had.
+    void indexForFind(QStringView name);
+
     // The value of a field in the current row, pending ones included.
     Value Fields(QStringView name) const;
 

@@ -79,3 +79,9 @@ TEST(Criterion, RaisesWrongArgumentsForWhatItCannotRead) {
         EXPECT_EQ(errorOf([&] { Criterion(QString::fromUtf16(criteria)); }), 3001)
             << qPrintable(QString::fromUtf16(criteria));
 }
+
+TEST(Criterion, TellsTheNumberThatAFieldMustHave) {
+    EXPECT_EQ(Criterion(QStringLiteral("f = -5")).equalNumber(), -5);
+    for (const char16_t* other : {u"f > 5", u"f <= 5", u"f <> 5", u"f = '5'"})
+        EXPECT_EQ(Criterion(QString::fromUtf16(other)).equalNumber(), std::nullopt);
+}

@@ -17,9 +17,28 @@ Chart::Chart(QWidget* parent) : QWidget(parent) {
 }
 
 void Chart::setFixedTwips(QSizeF size, const QRectF& plotArea) {
+    plotMargins_.reset();
     content_.size = size;
     content_.plotArea = plotArea;
     setFixedSize(toPixels(qRound(size.width())), toPixels(qRound(size.height())));
+    update();
+}
+
+void Chart::setPlotMargins(const QMarginsF& margins) {
+    plotMargins_ = margins;
+    fillSize();
+}
+
+void Chart::fillSize() {
+    if (!plotMargins_)
+        return;
+    content_.size = QSizeF(toTwips(width()), toTwips(height()));
+    content_.plotArea = QRectF(QPointF(), content_.size).marginsRemoved(*plotMargins_);
+    update();
+}
+
+void Chart::setChartType(ChartType type) {
+    content_.type = type;
     update();
 }
 
@@ -112,6 +131,10 @@ void Chart::setMousePointer(MousePointerShape shape) {
 void Chart::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     paintChart(painter, content_, chartColours(palette()), 1.0 / kTwipsPerPixel);
+}
+
+void Chart::resizeEvent(QResizeEvent*) {
+    fillSize();
 }
 
 void Chart::mouseMoveEvent(QMouseEvent* event) {

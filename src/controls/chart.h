@@ -1,6 +1,7 @@
-// A line chart of up to seven series.
+// A line chart or bar chart of up to seven series.
 #pragma once
 
+#include <QMarginsF>
 #include <QPixmap>
 #include <QWidget>
 
@@ -19,7 +20,12 @@ class Chart final : public QWidget {
     // Fixes the chart's size, and the place of the plot area in it, both in twips.
     void setFixedTwips(QSizeF size, const QRectF& plotArea);
 
+    // Keeps the plot area so many twips from the chart's edges, whatever size its layout gives it.
+    void setPlotMargins(const QMarginsF& margins);
+
     const ChartContent& content() const { return content_; }
+
+    void setChartType(ChartType type);
 
     // Takes over the values. Every column must have as many of them as there are rows.
     // Raises 380 for more than seven columns.
@@ -40,6 +46,7 @@ class Chart final : public QWidget {
     void setSeriesColour(int series, CycleColour colour);
     void setSeriesPattern(int series, PenPattern pattern);
 
+    // The title stands at the top, shortened where it does not fit.
     void setTitle(const QString& title);
 
     // Makes one row stand out; none for 0.
@@ -61,10 +68,13 @@ class Chart final : public QWidget {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
 
   private:
     ChartSeries& seriesAt(int series);
+    void fillSize();
 
     ChartContent content_;
+    std::optional<QMarginsF> plotMargins_;  // none: the size is fixed
 };

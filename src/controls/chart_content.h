@@ -20,6 +20,8 @@ struct ChartTable {
 
 inline constexpr int kMostSeries = 7;
 
+enum class ChartType { Bars = 1, Lines = 3 };
+
 enum class PenPattern { Solid = 1, Dashed = 2, Dotted = 3, Ditted = 6 };
 
 struct ChartSeries {
@@ -30,8 +32,10 @@ struct ChartSeries {
 
 enum class LegendLocation { Right = 4, Bottom = 7 };
 
-// A line chart of values from -100 to 100 per cent. Lengths are twips from the top left corner.
+// A chart of values of per cent: lines from -100 to 100, or bars from 0 to 100. Lengths are twips
+// from the top left corner.
 struct ChartContent {
+    ChartType type = ChartType::Lines;
     QSizeF size;
     QRectF plotArea;  // the rows lie in it as bands of equal width
     ChartTable table;

@@ -8,8 +8,16 @@
 
 namespace {
 
-constexpr double kLargestValue = 100;
-constexpr int kGridStep = 50;
+// The values that an axis shows, in per cent.
+struct Axis {
+    int lowest;
+    int highest;
+    int gridStep;
+};
+
+constexpr Axis kLineAxis{-100, 100, 50};
+constexpr Axis kBarAxis{0, 100, 25};
+
 constexpr int kRowsPerLabel = 5;
 constexpr double kTurn = 45;  // degrees
 constexpr double kTurnSine = std::numbers::sqrt2 / 2;
@@ -21,6 +29,14 @@ constexpr double kTickRoom = 60;    // between the axis and the row labels
 constexpr double kSampleLength = 270;
 constexpr double kLegendSpacing = 210;
 
+// The share that bars take, all of a row of its band and each of its place among them.
+constexpr double kBarGroupShare = 0.8;
+constexpr double kBarShare = 0.75;
+
+const Axis& axisOf(const ChartContent& content) {
+    return content.type == ChartType::Bars ? kBarAxis : kLineAxis;
+}
+
 int rowsOf(const ChartContent& content) {
     return static_cast<int>(content.table.rowLabels.size());
 }
@@ -30,8 +46,9 @@ double bandWidth(const ChartContent& content) {
 }
 
 std::vector<ChartGridLine> gridOf(const ChartContent& content, const TextMeasure& measure) {
+    const auto& [lowest, highest, gridStep] = axisOf(content);
     std::vector<ChartGridLine> grid;
-    for (int value = static_cast<int>(kLargestValue); value >= -kLargestValue; value -= kGridStep) {
+    for (int value = highest; value >= lowest; value -= gridStep) {
         const double y = valueHeight(content, value);
         grid.push_back({y, value == 0, percentText(value),
                         QRectF(0, y - measure.lineHeight / 2, content.plotArea.left() - kGap,
@@ -46,6 +63,27 @@ std::vector<QPointF> curveOf(const ChartContent& content, const std::vector<doub
     for (int row = 0; const double value : column)
         points.emplace_back(rowCentre(content, row++), valueHeight(content, value));
     return points;
+}
+
+// The bar of a value, from the line of 0 per cent on.
+ChartBar barOf(const ChartContent& content, int row, int series) {
+    const double group = bandWidth(content) * kBarGroupShare;
+    const double place = group / static_cast<double>(content.table.columns.size());
+    const double left =
+        rowCentre(content, row) - group / 2 + place * (series + (1 - kBarShare) / 2);
+    const double value =
+        content.table.columns[static_cast<std::size_t>(series)][static_cast<std::size_t>(row)];
+    return {series, QRectF(QPointF(left, valueHeight(content, value)),
+                           QPointF(left + place * kBarShare, valueHeight(content, 0)))};
+}
+
+std::vector<ChartBar> barsOf(const ChartContent& content) {
+    std::vector<ChartBar> bars;
+    for (int row = 0; row < rowsOf(content); ++row) {
+        for (int series = 0; series < static_cast<int>(content.table.columns.size()); ++series)
+            bars.push_back(barOf(content, row, series));
+    }
+    return bars;
 }
 
 double entryWidth(const ChartContent& content, const TextMeasure& measure, int series) {
@@ -190,6 +228,13 @@ void layOutRowLabels(const ChartContent& content, const TextMeasure& measure, Ch
                                           : levelLabel(content, measure, row));
 }
 
+void layOutCurves(const ChartContent& content, ChartLayout& layout) {
+    for (int row = 0; row < rowsOf(content); row += kRowsPerLabel)
+        layout.ticks.push_back(rowCentre(content, row));
+    for (const std::vector<double>& column : content.table.columns)
+        layout.curves.push_back(curveOf(content, column));
+}
+
 }  // namespace
 
 double rowCentre(const ChartContent& content, int row) {
@@ -197,20 +242,23 @@ double rowCentre(const ChartContent& content, int row) {
 }
 
 double valueHeight(const ChartContent& content, double percent) {
+    const Axis& axis = axisOf(content);
+    const double middle = (axis.lowest + axis.highest) / 2.0;
     const double half = content.plotArea.height() / 2 - kValueInset;
-    return content.plotArea.center().y() - percent / kLargestValue * half;
+    return content.plotArea.center().y() - (percent - middle) / (axis.highest - middle) * half;
 }
 
 ChartLayout layOutChart(const ChartContent& content, const TextMeasure& measure) {
     ChartLayout layout{};
-    layout.titleBox = QRectF(0, 0, content.size.width(), content.plotArea.top());
+    layout.titleBox =
+        QRectF(QPointF(kGap, kGap), QPointF(content.size.width() - kGap, content.plotArea.top()));
     layout.grid = gridOf(content, measure);
     layout.legend = legendOf(content, measure);
-    for (int row = 0; row < rowsOf(content); row += kRowsPerLabel)
-        layout.ticks.push_back(rowCentre(content, row));
     layOutRowLabels(content, measure, layout);
-    for (const std::vector<double>& column : content.table.columns)
-        layout.curves.push_back(curveOf(content, column));
+    if (content.type == ChartType::Bars)
+        layout.bars = barsOf(content);
+    else
+        layOutCurves(content, layout);
     if (content.markedRow && *content.markedRow < rowsOf(content)) {
         const double left = content.plotArea.left() + *content.markedRow * bandWidth(content);
         layout.markedBand =

@@ -29,9 +29,14 @@ struct ChartRowLabel {
     QRectF box;
 };
 
+struct ChartBar {
+    int series;
+    QRectF box;
+};
+
 struct ChartLegendEntry {
     int series;
-    QLineF sample;  // a piece of the series' line
+    QLineF sample;  // a piece of the series' line, or a piece lengthwise of its bars
     QRectF textBox;
 };
 
@@ -39,10 +44,11 @@ struct ChartLegendEntry {
 struct ChartLayout {
     QRectF titleBox;
     std::vector<ChartGridLine> grid;  // from the top
-    std::vector<double> ticks;        // where on the x axis every fifth row lies
+    std::vector<double> ticks;        // where on the x axis every fifth row of a line chart lies
     double rowLabelAngle;             // in degrees
     std::vector<ChartRowLabel> rowLabels;
-    std::vector<std::vector<QPointF>> curves;  // a point a row, one curve a column
+    std::vector<std::vector<QPointF>> curves;  // of lines: a point a row, one curve a column
+    std::vector<ChartBar> bars;                // of bars: one a value, those of a row side by side
     std::optional<QRectF> markedBand;
     std::vector<ChartLegendEntry> legend;
 };

@@ -18,6 +18,7 @@ constexpr int kTwipsPerPoint = 20;
 // In twips.
 constexpr double kHairline = 15;
 constexpr double kCurveWidth = 27;
+constexpr double kBarSampleWidth = 120;
 constexpr double kTickLength = 45;
 constexpr double kMarkerRadius = 45;
 
@@ -59,10 +60,12 @@ class ChartSketch {
     QPen hairline(const QColor& colour) const;
     const QColor& colourOf(std::size_t series) const;
     QPen penOf(std::size_t series) const;
+    QPen samplePenOf(std::size_t series) const;
 
     void paintMark();
     void paintGrid();
     void paintRowAxis();
+    void paintBars();
     void paintCurves();
     void paintMarkers();
     void paintLegend();
@@ -90,6 +93,7 @@ void ChartSketch::paint() {
     paintMark();
     paintGrid();
     paintRowAxis();
+    paintBars();
     paintCurves();
     paintMarkers();
     paintLegend();
@@ -124,6 +128,12 @@ QPen ChartSketch::penOf(std::size_t series) const {
     if (const QList<qreal> pattern = dashes(content_.series[series].pattern); !pattern.isEmpty())
         pen.setDashPattern(pattern);
     return pen;
+}
+
+QPen ChartSketch::samplePenOf(std::size_t series) const {
+    if (content_.type == ChartType::Lines)
+        return penOf(series);
+    return QPen(colourOf(series), pixels(kBarSampleWidth), Qt::SolidLine, Qt::FlatCap);
 }
 
 void ChartSketch::paintMark() {
@@ -176,6 +186,14 @@ QPainterPath smoothLine(const std::vector<QPointF>& points) {
     return line;
 }
 
+void ChartSketch::paintBars() {
+    painter_.save();
+    painter_.setClipRect(pixels(content_.plotArea));
+    for (const ChartBar& bar : layout_.bars)
+        painter_.fillRect(pixels(bar.box), colourOf(static_cast<std::size_t>(bar.series)));
+    painter_.restore();
+}
+
 void ChartSketch::paintCurves() {
     painter_.save();
     painter_.setClipRect(pixels(content_.plotArea));
@@ -206,7 +224,7 @@ void ChartSketch::paintMarkers() {
 void ChartSketch::paintLegend() {
     for (const ChartLegendEntry& entry : layout_.legend) {
         const auto series = static_cast<std::size_t>(entry.series);
-        painter_.setPen(penOf(series));
+        painter_.setPen(samplePenOf(series));
         painter_.drawLine(pixels(entry.sample.p1()), pixels(entry.sample.p2()));
         painter_.setPen(colours_.text);
         painter_.drawText(pixels(entry.textBox),
@@ -216,8 +234,11 @@ void ChartSketch::paintLegend() {
 }
 
 void ChartSketch::paintTitle() {
+    const QRectF box = pixels(layout_.titleBox);
     painter_.setPen(colours_.text);
-    painter_.drawText(pixels(layout_.titleBox), Qt::AlignCenter, content_.title);
+    painter_.drawText(
+        box, Qt::AlignHCenter | Qt::AlignTop,
+        QFontMetricsF(font()).elidedText(content_.title, Qt::ElideRight, box.width()));
 }
 
 }  // namespace

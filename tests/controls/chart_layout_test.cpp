@@ -32,6 +32,16 @@ ChartContent mainChart(const QString& rowLabel = QStringLiteral("14/03/2000")) {
     return content;
 }
 
+// One row of four bars, with room for a legend beside them.
+ChartContent barChart() {
+    ChartContent content = mainChart(QString());
+    content.type = ChartType::Bars;
+    content.plotArea.setRight(3600);
+    content.legendLocation = LegendLocation::Right;
+    content.table = {.rowLabels = {QString()}, .columns = {{10.0}, {55.5}, {0.0}, {100.0}}};
+    return content;
+}
+
 ChartLayout layOut(const ChartContent& content) {
     return layOutChart(content, fixedMeasure());
 }
@@ -215,4 +225,74 @@ TEST(ChartLayout, OfAnEmptyTableHasItsGridAndNothingElse) {
     EXPECT_TRUE(layout.rowLabels.empty());
     EXPECT_TRUE(layout.legend.empty());
     EXPECT_FALSE(layout.markedBand);
+}
+
+TEST(ChartLayout, SpreadsTheValuesOfBarsFromTheBottomOfThePlotAreaToItsTop) {
+    const ChartContent content = barChart();
+    EXPECT_DOUBLE_EQ(valueHeight(content, 50), (360 + 2295) / 2.0);
+    EXPECT_DOUBLE_EQ(valueHeight(content, 100) - 360, 2295 - valueHeight(content, 0));
+    EXPECT_GT(valueHeight(content, 100), 360);
+    EXPECT_LT(valueHeight(content, 100), 360 + 75);
+}
+
+TEST(ChartLayout, HasAGridLineEveryTwentyFivePerCentBehindBars) {
+    QStringList labels;
+    for (const ChartGridLine& line : layOut(barChart()).grid) {
+        labels += line.label;
+        EXPECT_EQ(line.isZero, line.label == QStringLiteral("0%"));
+    }
+    EXPECT_EQ(labels,
+              QStringList({QStringLiteral("100%"), QStringLiteral("75%"), QStringLiteral("50%"),
+                           QStringLiteral("25%"), QStringLiteral("0%")}));
+}
+
+TEST(ChartLayout, DrawsABarFromNoughtToItsValue) {
+    const ChartContent content = barChart();
+    const ChartLayout layout = layOut(content);
+    ASSERT_EQ(layout.bars.size(), 4U);
+    for (std::size_t i = 0; i < 4; ++i) {
+        EXPECT_EQ(layout.bars[i].series, static_cast<int>(i));
+        EXPECT_DOUBLE_EQ(layout.bars[i].box.top(),
+                         valueHeight(content, content.table.columns[i].front()));
+        EXPECT_DOUBLE_EQ(layout.bars[i].box.bottom(), valueHeight(content, 0));
+    }
+    EXPECT_EQ(layout.bars[2].box.height(), 0);
+}
+
+TEST(ChartLayout, PutsTheBarsOfARowSideBySideInTheMiddleOfItsBand) {
+    ChartContent content = barChart();
+    content.table = {.rowLabels = {QString(), QString()}, .columns = {{10, 20}, {30, 40}}};
+    const std::vector<ChartBar> bars = layOut(content).bars;
+    ASSERT_EQ(bars.size(), 4U);
+    EXPECT_GT(bars[0].box.left(), 795);
+    for (std::size_t i = 1; i < 4; ++i)
+        EXPECT_GT(bars[i].box.left(), bars[i - 1].box.right()) << i;
+    EXPECT_LT(bars[3].box.right(), 3600);
+    EXPECT_DOUBLE_EQ((bars[0].box.left() + bars[1].box.right()) / 2, rowCentre(content, 0));
+    EXPECT_DOUBLE_EQ((bars[2].box.left() + bars[3].box.right()) / 2, rowCentre(content, 1));
+    EXPECT_DOUBLE_EQ(bars[0].box.width(), bars[3].box.width());
+}
+
+TEST(ChartLayout, HasEitherBarsOrCurves) {
+    const ChartLayout bars = layOut(barChart());
+    EXPECT_TRUE(bars.curves.empty());
+    EXPECT_TRUE(bars.ticks.empty());
+    EXPECT_TRUE(layOut(mainChart()).bars.empty());
+}
+
+TEST(ChartLayout, KeepsTheLegendBesideBarsWithinTheChart) {
+    ChartContent content = barChart();
+    for (ChartSeries& series : content.series)
+        series.legendText = QStringLiteral("Intel.: (100%)");
+    content.plotArea.setRight(5055 - 1900);
+    for (const ChartLegendEntry& entry : layOut(content).legend)
+        EXPECT_TRUE(QRectF(QPointF(), content.size).contains(entry.textBox));
+}
+
+TEST(ChartLayout, HasItsTitleAboveThePlotAreaAndClearOfTheEdges) {
+    const QRectF title = layOut(barChart()).titleBox;
+    EXPECT_GT(title.top(), 0);
+    EXPECT_LE(title.bottom(), 360);
+    EXPECT_GT(title.left(), 0);
+    EXPECT_EQ(title.left(), 5055 - title.right());
 }

@@ -75,3 +75,49 @@ TEST(ChartPainter, PaintsNothingOfTheCurvesOutsideThePlotArea) {
     }
     EXPECT_GT(inside, 300);
 }
+
+TEST(ChartPainter, FillsEachBarAndNothingBeyondIt) {
+    ChartContent content = wave();
+    content.type = ChartType::Bars;
+    content.table = {.rowLabels = {QString()}, .columns = {{62.5}}};
+    const QRectF twips(QPointF(rowCentre(content, 0) - 300, valueHeight(content, 62.5)),
+                       QPointF(rowCentre(content, 0) + 300, valueHeight(content, 0)));
+    const QImage image = paint(content, kScreen);
+    const QRect bar = QRectF(twips.topLeft() / 15, twips.size() / 15).toRect();
+    for (int y = 0; y < image.height(); ++y)
+        EXPECT_EQ(isReddish(image.pixel(bar.center().x(), y)), y >= bar.top() && y <= bar.bottom())
+            << y;
+    EXPECT_TRUE(isReddish(image.pixel(bar.left(), bar.center().y())));
+    EXPECT_TRUE(isReddish(image.pixel(bar.right(), bar.center().y())));
+    EXPECT_FALSE(isReddish(image.pixel(60, bar.center().y())));
+    EXPECT_FALSE(isReddish(image.pixel(305, bar.center().y())));
+}
+
+TEST(ChartPainter, LeavesGapsInADottedCurveAndNoneInASolidOne) {
+    ChartContent content = wave();
+    std::fill(content.table.columns[0].begin(), content.table.columns[0].end(), 50.0);
+    const int line = static_cast<int>(valueHeight(content, 50) / 15);
+    const auto inkedPixels = [&] {
+        const QImage image = paint(content, kScreen);
+        int inked = 0;
+        for (int x = 60; x < 300; ++x)
+            inked += isReddish(image.pixel(x, line)) ? 1 : 0;
+        return inked;
+    };
+    EXPECT_EQ(inkedPixels(), 240);
+    content.series[0].pattern = PenPattern::Dotted;
+    EXPECT_GT(inkedPixels(), 40);
+    EXPECT_LT(inkedPixels(), 200);
+}
+
+TEST(ChartPainter, ShortensATitleThatIsTooLong) {
+    ChartContent content = wave();
+    const QImage without = paint(content, kScreen);
+    content.title = QStringLiteral("Somebody ").repeated(30);
+    const QImage with = paint(content, kScreen);
+    const QRect edge(0, 0, 4, 24);
+    EXPECT_NE(with.copy(4, 0, 330, 24), without.copy(4, 0, 330, 24));
+    EXPECT_EQ(with.copy(edge), without.copy(edge));
+    EXPECT_EQ(with.copy(edge.translated(with.width() - 4, 0)),
+              without.copy(edge.translated(with.width() - 4, 0)));
+}

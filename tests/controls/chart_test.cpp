@@ -35,6 +35,24 @@ TEST_F(ChartTest, IsAsLargeAsItsTwipsSay) {
     EXPECT_EQ(chart_.maximumSize(), QSize(337, 241));
 }
 
+TEST_F(ChartTest, KeepsItsPlotAreaWithinItsMarginsInWhateverSize) {
+    Chart chart;
+    chart.resize(400, 300);
+    chart.setPlotMargins({795, 360, 360, 900});
+    EXPECT_EQ(chart.content().size, QSizeF(6000, 4500));
+    EXPECT_EQ(chart.content().plotArea, QRectF(QPointF(795, 360), QPointF(5640, 3600)));
+    chart.show();
+    chart.resize(500, 200);
+    EXPECT_EQ(chart.content().size, QSizeF(7500, 3000));
+    EXPECT_EQ(chart.content().plotArea, QRectF(QPointF(795, 360), QPointF(7140, 2100)));
+}
+
+TEST_F(ChartTest, DrawsLinesUntilItIsToldToDrawBars) {
+    EXPECT_EQ(chart_.content().type, ChartType::Lines);
+    chart_.setChartType(ChartType::Bars);
+    EXPECT_EQ(chart_.content().type, ChartType::Bars);
+}
+
 TEST_F(ChartTest, GivesItsValuesBackByRowAndColumnCountedFromOne) {
     chart_.setChartData(smallTable());
     EXPECT_EQ(chart_.Data(1, 1), 1.5);

@@ -1,0 +1,33 @@
+// The bar that fills up.
+#include "controls/progress_bar.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "support/errors.h"
+
+TEST(ProgressBar, KeepsItsValueUnrounded) {
+    ProgressBar bar;
+    EXPECT_EQ(bar.Value(), 0);
+    bar.setValue(78.10275741145306);
+    EXPECT_EQ(bar.Value(), 78.10275741145306);
+}
+
+TEST(ProgressBar, IsFilledByTheShareOfItsValue) {
+    ProgressBar bar;
+    const auto share = [&bar] { return static_cast<double>(bar.value()) / bar.maximum(); };
+    EXPECT_EQ(share(), 0);
+    for (const double percent : {0.0, 12.3, 50.0, 99.99, 100.0}) {
+        bar.setValue(percent);
+        EXPECT_NEAR(share(), percent / 100, 1e-4) << percent;
+    }
+}
+
+TEST(ProgressBar, RaisesAnErrorForWhatIsNoPercentage) {
+    ProgressBar bar;
+    bar.setValue(40);
+    for (const double value : {-0.01, 100.01, std::numeric_limits<double>::quiet_NaN()})
+        EXPECT_EQ(errorOf([&] { bar.setValue(value); }), 380) << value;
+    EXPECT_EQ(bar.Value(), 40);
+}

@@ -8,6 +8,7 @@
 #include "controls/month_view.h"
 #include "runtime/host.h"
 #include "shell/chart_days.h"
+#include "shell/chart_table.h"
 #include "shell/main_controls.h"
 
 namespace modCycles {
@@ -18,14 +19,11 @@ namespace {
 enum Series { kEmotional = 1, kPhysical, kIntellectual, kAverage };
 
 ChartTable tableOf(std::span<const ChartDay> days) {
-    ChartTable table{.rowLabels = {}, .columns = std::vector<std::vector<double>>(kAverage)};
-    for (const ChartDay& day : days) {
-        table.rowLabels += host().shortDate(day.date);
-        table.columns[0].push_back(day.values.emotional);
-        table.columns[1].push_back(day.values.physical);
-        table.columns[2].push_back(day.values.intellectual);
-        table.columns[3].push_back(day.values.average());
-    }
+    ChartTable table{.rowLabels = dateLabels(days), .columns = {}};
+    addCycleColumns(table, days);
+    std::vector<double>& averages = table.columns.emplace_back();
+    for (const ChartDay& day : days)
+        averages.push_back(day.values.average());
     return table;
 }
 

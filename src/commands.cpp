@@ -131,14 +131,8 @@ void Commands::tlbMain_ButtonMenuClick(int index) {
         else if (key == modCycles::kManageFavesKey)
             frmManageFaves(&window_).ShowModal();
         else if (key.isEmpty())
-            chooseFavourite(mainControls().mnuFaves->Text(index));
+            modCycles::chooseFavourite(mainControls().mnuFaves->Text(index),
+                                       *mainControls().cbCategory, *mainControls().lstMain,
+                                       &window_);
     });
-}
-
-void Commands::chooseFavourite(const QString& name) {
-    if (!modCycles::selectFavourite(name, *mainControls().cbCategory, *mainControls().lstMain))
-        host().showMessage(
-            {.text = QStringLiteral("This person appears to have been removed from the database. "
-                                    "Please update your favourites."),
-             .owner = &window_});
 }

@@ -36,7 +36,6 @@ class Commands final : public QObject {
 
     // Whether there is a person; without one the user gets the request.
     bool isPersonChosen(const QString& request);
-    void chooseFavourite(const QString& name);
 
     frmMain& window_;
 };

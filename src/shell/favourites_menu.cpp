@@ -6,6 +6,7 @@
 #include "controls/file_list_box.h"
 #include "controls/list_box.h"
 #include "runtime/app.h"
+#include "runtime/host.h"
 #include "shell/main_controls.h"
 #include "store/favourites.h"
 
@@ -24,14 +25,18 @@ void listFavourites(FileListBox& files) {
     files.Refresh();
 }
 
-void fillFavourites(ButtonMenu& menu, int fixedEntries, FileListBox& files) {
+void fillFavourites(ButtonMenu& menu, int fixedEntries, FileListBox& files,
+                    const FavouriteFilter& isOffered) {
     listFavourites(files);
     if (files.ListCount() == 0)
         return;
     while (menu.Count() > fixedEntries)
         menu.Remove(menu.Count());
-    for (int i = 0; i < files.ListCount(); ++i)
-        menu.Add({}, favouriteIn(files.List(i)));
+    for (int i = 0; i < files.ListCount(); ++i) {
+        const QString favourite = favouriteIn(files.List(i));
+        if (!isOffered || isOffered(favourite))
+            menu.Add({}, favourite);
+    }
 }
 
 void startFavouritesMenu(ButtonMenu& menu) {
@@ -57,6 +62,14 @@ bool selectFavourite(const QString& name, ComboBox& filter, ListBox& people) {
     filter.setListIndex(kEverybody);
     people.setText(favourite.displayText);
     return people.ListIndex() != -1;
+}
+
+void chooseFavourite(const QString& name, ComboBox& filter, ListBox& people, QObject* owner) {
+    if (!selectFavourite(name, filter, people))
+        host().showMessage(
+            {.text = QStringLiteral("This person appears to have been removed from the database. "
+                                    "Please update your favourites."),
+             .owner = owner});
 }
 
 }  // namespace modCycles

@@ -6,30 +6,26 @@
 #include "store/recordset.h"
 #include "store/statements.h"
 
-namespace {
-
-void fillFrom(Recordset& people, ItemList& list) {
+std::vector<ListEntry> personEntries(Recordset& people) {
     std::vector<ListEntry> entries;
     entries.reserve(static_cast<std::size_t>(people.RecordCount()));
     for (; !people.EndOfFile(); people.MoveNext())
         entries.push_back({displayText(people), people.Fields(u"NameID").toLong()});
-    list.fill(std::move(entries));
+    return entries;
 }
-
-}  // namespace
 
 void fillPeople(ItemList& list) {
     Connection connection = openPersonDatabase();
     Recordset people(connection, statements::allPeopleWithNotes());
     list.fill({});
     people.MoveFirst();
-    fillFrom(people, list);
+    list.fill(personEntries(people));
 }
 
 void fillPeopleOfCategory(ItemList& list, Long catId) {
     Connection connection = openPersonDatabase();
     Recordset people(connection, statements::peopleOfCategory(catId));
-    fillFrom(people, list);
+    list.fill(personEntries(people));
 }
 
 std::vector<ListEntry> categoryEntries(Recordset& categories) {
@@ -47,8 +43,12 @@ std::vector<ListEntry> readCategories() {
     return categoryEntries(categories);
 }
 
+std::vector<ListEntry> categoryFilter(std::vector<ListEntry> categories) {
+    categories.insert(categories.begin(),
+                      {.text = QStringLiteral("*"), .itemData = 0, .leads = true});
+    return categories;
+}
+
 std::vector<ListEntry> readCategoryFilter() {
-    std::vector<ListEntry> entries = readCategories();
-    entries.insert(entries.begin(), {.text = QStringLiteral("*"), .itemData = 0, .leads = true});
-    return entries;
+    return categoryFilter(readCategories());
 }

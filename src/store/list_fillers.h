@@ -13,6 +13,10 @@ void fillPeople(ItemList& list);
 // The same with the people of one category, who may be nobody.
 void fillPeopleOfCategory(ItemList& list, Long catId);
 
+// The people of a set from its current row on, each by the display text and with the NameID as item
+// data.
+std::vector<ListEntry> personEntries(Recordset& people);
+
 // The categories of a set from its current row on, each with its CatID as item data.
 std::vector<ListEntry> categoryEntries(Recordset& categories);
 
@@ -20,5 +24,8 @@ std::vector<ListEntry> categoryEntries(Recordset& categories);
 // none.
 std::vector<ListEntry> readCategories();
 
-// The same behind the pseudo-entry "*" with item data 0, which stands for everybody.
+// Categories behind the pseudo-entry "*" with item data 0, which stands for everybody.
+std::vector<ListEntry> categoryFilter(std::vector<ListEntry> categories);
+
+// The filter of all categories, in the order of the store. Raises 3021 if there is none.
 std::vector<ListEntry> readCategoryFilter();

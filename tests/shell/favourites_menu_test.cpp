@@ -95,6 +95,28 @@ TEST_F(FavouritesMenu, TakesWholeAnyMenuWithoutFixedEntries) {
     EXPECT_EQ(other.Text(1), QStringLiteral("Zed"));
 }
 
+TEST_F(FavouritesMenu, OffersThoseAloneThatItsFilterTakes) {
+    load();
+    for (const char* name : {"Abe.ofp", "Bea.ofp", "Cal.ofp"})
+        make(QString::fromLatin1(name));
+    ButtonMenu other;
+    const auto isNotBea = [](const QString& name) { return name != QStringLiteral("Bea"); };
+    fillFavourites(other, 0, control<FileListBox>("flFavePerson"), isNotBea);
+    ASSERT_EQ(other.Count(), 2);
+    EXPECT_EQ(other.Text(1), QStringLiteral("Abe"));
+    EXPECT_EQ(other.Text(2), QStringLiteral("Cal"));
+}
+
+TEST_F(FavouritesMenu, IsEmptyWhereItsFilterTakesNone) {
+    load();
+    make(QStringLiteral("Zed.ofp"));
+    ButtonMenu other;
+    other.Add({}, QStringLiteral("old"));
+    fillFavourites(other, 0, control<FileListBox>("flFavePerson"),
+                   [](const QString&) { return false; });
+    EXPECT_EQ(other.Count(), 0);
+}
+
 TEST_F(FavouritesMenu, GainsThePersonWhoIsAdded) {
     loadAndChoose(kAnna);
     addFavourite();

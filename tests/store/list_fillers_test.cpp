@@ -151,3 +151,19 @@ TEST_F(ListFillersTest, ReadNoCategoriesFromASetWithoutAny) {
     Recordset categories(connection, statements::categories());
     EXPECT_TRUE(categoryEntries(categories).empty());
 }
+
+TEST_F(ListFillersTest, TakeThePeopleOfASetFromItsCurrentRowOn) {
+    addCategory(directory_.people(), QStringLiteral("Family"));
+    add("Adler", kAnna);
+    add("Berg");
+    Connection connection = openPersonDatabase();
+    Recordset people(connection, statements::allPeopleWithNotes());
+    EXPECT_EQ(personEntries(people).size(), 2U);
+    EXPECT_TRUE(people.EndOfFile());
+    EXPECT_EQ(personEntries(people).size(), 0U);
+    people.MoveLast();
+    const std::vector<ListEntry> entries = personEntries(people);
+    ASSERT_EQ(entries.size(), 1U);
+    EXPECT_EQ(entries.front().text, QStringLiteral("Berg"));
+    EXPECT_EQ(entries.front().itemData, 2);
+}

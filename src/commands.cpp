@@ -4,6 +4,7 @@
 #include <QAction>
 
 #include "analyses/frmBirthdayToday.h"
+#include "analyses/frmQuick.h"
 #include "controls/button_menu.h"
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
@@ -75,7 +76,8 @@ void Commands::mnuMatchDabatase_Click() {
 }
 
 void Commands::mnuQuickMatch_Click() {
-    isPersonChosen(needOfAPerson());
+    if (isPersonChosen(needOfAPerson()))
+        frmQuick(&window_).ShowModal();
 }
 
 void Commands::mnuFind_Click() {

@@ -11,6 +11,7 @@
 #include <QToolButton>
 
 #include "analyses/frmBirthdayToday.h"
+#include "analyses/frmQuick.h"
 #include "controls/button_menu.h"
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
@@ -95,9 +96,8 @@ TEST_F(CommandsTest, AskForDetailsInWordsOfTheirOwn) {
 
 TEST_F(CommandsTest, AskForNobodyWhoIsThere) {
     startWith(kAnna);
-    for (const char* command : kNeedPerson)
+    for (const char* command : {"mnuMatchDabatase", "mnuFind", "mnuReport", "mnuViewDetails"})
         trigger(command);
-    trigger("mnuViewDetails");
     EXPECT_TRUE(host_.messages().empty());
 }
 
@@ -117,6 +117,11 @@ TEST_F(CommandsTest, OpenTheFormsThatNeedNobodyWithoutAPerson) {
     expectForm<frmAdd>("mnuFileAdd");
     expectForm<frmCategory>("mnuFileCat");
     expectForm<frmExplore>("mnuFileExplore");
+}
+
+TEST_F(CommandsTest, OpenTheFormsThatNeedAPersonForWhoeverIsChosen) {
+    startWith(kAnna);
+    expectForm<frmQuick>("mnuQuickMatch");
 }
 
 TEST_F(CommandsTest, ShowTheHelpFileByItsNameAlone) {

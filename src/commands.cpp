@@ -4,6 +4,7 @@
 #include <QAction>
 
 #include "analyses/frmBirthdayToday.h"
+#include "analyses/frmCompat.h"
 #include "analyses/frmQuick.h"
 #include "controls/button_menu.h"
 #include "controls/combo_box.h"
@@ -72,7 +73,8 @@ void Commands::cmdDetails_Click() {
 }
 
 void Commands::mnuMatchDabatase_Click() {
-    isPersonChosen(needOfAPerson());
+    if (isPersonChosen(needOfAPerson()))
+        openSlowForm<frmCompat>();
 }
 
 void Commands::mnuQuickMatch_Click() {

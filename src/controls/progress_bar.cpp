@@ -1,6 +1,8 @@
 // The bar on Qt's, which counts whole steps.
 #include "controls/progress_bar.h"
 
+#include <QEvent>
+
 #include "runtime/errors.h"
 
 namespace {
@@ -21,4 +23,21 @@ void ProgressBar::setValue(double percent) {
         throw RuntimeError(ErrorNumber::InvalidPropertyValue);
     value_ = percent;
     QProgressBar::setValue(qRound(percent / kFull * kStepsToFull));
+}
+
+void ProgressBar::setCycle(CycleColour cycle) {
+    cycle_ = cycle;
+    followPalette();
+}
+
+void ProgressBar::changeEvent(QEvent* event) {
+    QProgressBar::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && cycle_)
+        followPalette();
+}
+
+void ProgressBar::followPalette() {
+    QPalette coloured;
+    coloured.setColor(QPalette::Highlight, cycleColour(*cycle_, palette()));
+    setPalette(coloured);
 }

@@ -2,8 +2,11 @@
 #pragma once
 
 #include <QProgressBar>
+#include <optional>
 
-// Its value is one of per cent, and is kept unrounded.
+#include "controls/cycle_colours.h"
+
+// Its value is one of per cent, and is kept unrounded. It can have a cycle's colour.
 class ProgressBar final : public QProgressBar {
     Q_OBJECT
 
@@ -15,6 +18,14 @@ class ProgressBar final : public QProgressBar {
     // Raises 380 outside 0 to 100.
     void setValue(double percent);
 
+    void setCycle(CycleColour cycle);
+
+  protected:
+    void changeEvent(QEvent* event) override;
+
   private:
+    void followPalette();
+
     double value_ = 0;
+    std::optional<CycleColour> cycle_;
 };

@@ -31,3 +31,14 @@ TEST(ProgressBar, RaisesAnErrorForWhatIsNoPercentage) {
         EXPECT_EQ(errorOf([&] { bar.setValue(value); }), 380) << value;
     EXPECT_EQ(bar.Value(), 40);
 }
+
+TEST(ProgressBar, FollowsTheDesktopWithTheColourOfItsCycle) {
+    QWidget window;
+    ProgressBar bar(&window);
+    bar.setCycle(CycleColour::Average);
+    for (const QColor& desktop : {QColor(46, 46, 50), QColor(Qt::white)}) {
+        window.setPalette(QPalette(desktop));
+        EXPECT_EQ(bar.palette().color(QPalette::Highlight),
+                  cycleColour(CycleColour::Average, window.palette()));
+    }
+}

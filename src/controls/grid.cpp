@@ -9,6 +9,7 @@
 
 #include "controls/cell_colours.h"
 #include "controls/column_widths.h"
+#include "controls/text_colours.h"
 #include "controls/twips.h"
 
 namespace {
@@ -16,7 +17,7 @@ namespace {
 constexpr int kRoomAroundText = 4;  // pixels, above and below each
 constexpr int kMarkWidth = 3;
 
-// Gives cells the backgrounds that they were given.
+// Gives cells the colours that they were given.
 class CellDelegate final : public QStyledItemDelegate {
   public:
     CellDelegate(const GridModel& model, QObject* parent)
@@ -28,6 +29,8 @@ class CellDelegate final : public QStyledItemDelegate {
         const CellLook& look = model_.cells().look(model_.gridRow(index), index.column());
         if (look.backColor != 0)
             option->backgroundBrush = cellBackground(look.backColor, option->palette);
+        if (look.foreColor != 0)
+            option->palette.setColor(QPalette::Text, textColour(look.foreColor, option->palette));
     }
 
   private:
@@ -76,6 +79,11 @@ void Grid::setRedraw(bool redraw) {
     redraw_ = redraw;
     viewport()->setUpdatesEnabled(redraw);
     horizontalHeader()->viewport()->setUpdatesEnabled(redraw);
+}
+
+void Grid::Refresh() {
+    viewport()->repaint();
+    horizontalHeader()->viewport()->repaint();
 }
 
 void Grid::showCells() {

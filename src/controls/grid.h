@@ -36,6 +36,9 @@ class Grid final : public QTableView {
     bool Redraw() const { return redraw_; }
     void setRedraw(bool redraw);
 
+    // Paints the grid before what comes next, unless Redraw is off.
+    void Refresh();
+
     // The cell under the mouse at its last event; beyond the outermost cells the nearest of them,
     // be it hidden.
     int MouseRow() const { return cellAt(mouse_).row; }

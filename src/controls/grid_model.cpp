@@ -4,6 +4,15 @@
 #include <QFont>
 #include <algorithm>
 
+namespace {
+
+Qt::Alignment alignmentOf(ColumnAlignment alignment) {
+    return Qt::AlignVCenter |
+           (alignment == ColumnAlignment::Centre ? Qt::AlignHCenter : Qt::AlignLeft);
+}
+
+}  // namespace
+
 void GridModel::select(const QModelIndex& cell) {
     cells_.setRow(gridRow(cell));
     cells_.setCol(cell.column());
@@ -34,6 +43,8 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
 }
 
 QVariant GridModel::cellData(int row, int column, int role) const {
+    if (role == Qt::TextAlignmentRole)
+        return QVariant::fromValue(alignmentOf(cells_.ColAlignment(column)));
     if (role != Qt::FontRole || !cells_.look(row, column).isBold)
         return {};
     QFont bold;

@@ -8,6 +8,7 @@
 #include <optional>
 #include <vector>
 
+#include "runtime/text.h"
 #include "runtime/text_key.h"
 #include "runtime/text_order.h"
 
@@ -28,13 +29,13 @@ std::optional<double> numberIn(QStringView text) {
     return isNumber && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
-// What a text is compared by.
-class SortKey {
+// What a text is compared by in the generic order.
+class GenericKey {
   public:
-    explicit SortKey(QStringView text)
+    explicit GenericKey(QStringView text)
         : number_(numberIn(text)), text_(number_ ? kAnyNumber : text), key_(text_) {}
 
-    std::weak_ordering operator<=>(const SortKey& other) const {
+    std::weak_ordering operator<=>(const GenericKey& other) const {
         if (number_ && other.number_)
             return std::weak_order(*number_, *other.number_);
         const auto order = key_ <=> other.key_;
@@ -51,16 +52,21 @@ class SortKey {
     TextKey key_;
 };
 
-struct KeyedRow {
-    SortKey key;
-    int row;
+// The same in the numeric order.
+class NumericKey {
+  public:
+    explicit NumericKey(QStringView text) : number_(Val(text)) {}
+
+    std::weak_ordering operator<=>(const NumericKey& other) const {
+        return std::weak_order(other.number_, number_);
+    }
+
+  private:
+    double number_;
 };
 
-bool comesBefore(const KeyedRow& a, const KeyedRow& b) {
-    return a.key < b.key;
-}
-
-// Sorts rows of a store by their texts.
+// Sorts rows of a store by the keys of their texts.
+template <class Key>
 class RowSorter {
   public:
     RowSorter(int storedRows, int texts, const SortText& textOf)
@@ -69,18 +75,26 @@ class RowSorter {
     void sort(std::span<int> rows) { sortFrom(0, rows); }
 
   private:
-    const std::vector<SortKey>& keys(std::size_t place);
+    struct KeyedRow {
+        Key key;
+        int row;
+    };
+
+    static bool comesBefore(const KeyedRow& a, const KeyedRow& b) { return a.key < b.key; }
+
+    const std::vector<Key>& keys(std::size_t place);
     std::vector<KeyedRow> keyed(std::span<const int> rows, std::size_t place);
     void sortFrom(std::size_t place, std::span<int> rows);
 
     int storedRows_;
     const SortText& textOf_;
-    std::vector<std::vector<SortKey>> keys_;  // of each text, one for each stored row
+    std::vector<std::vector<Key>> keys_;  // of each text, one for each stored row
 };
 
 // Made when they are first needed.
-const std::vector<SortKey>& RowSorter::keys(std::size_t place) {
-    std::vector<SortKey>& keys = keys_[place];
+template <class Key>
+const std::vector<Key>& RowSorter<Key>::keys(std::size_t place) {
+    std::vector<Key>& keys = keys_[place];
     if (keys.empty()) {
         keys.reserve(static_cast<std::size_t>(storedRows_));
         for (int row = 0; row < storedRows_; ++row)
@@ -89,8 +103,9 @@ const std::vector<SortKey>& RowSorter::keys(std::size_t place) {
     return keys;
 }
 
-std::vector<KeyedRow> RowSorter::keyed(std::span<const int> rows, std::size_t place) {
-    const std::vector<SortKey>& stored = keys(place);
+template <class Key>
+auto RowSorter<Key>::keyed(std::span<const int> rows, std::size_t place) -> std::vector<KeyedRow> {
+    const std::vector<Key>& stored = keys(place);
     std::vector<KeyedRow> keyed;
     keyed.reserve(rows.size());
     for (const int row : rows)
@@ -99,7 +114,8 @@ std::vector<KeyedRow> RowSorter::keyed(std::span<const int> rows, std::size_t pl
 }
 
 // Rows with the same text are sorted by the next one.
-void RowSorter::sortFrom(std::size_t place, std::span<int> rows) {
+template <class Key>
+void RowSorter<Key>::sortFrom(std::size_t place, std::span<int> rows) {
     if (place == keys_.size() || rows.size() < 2)
         return;
     std::vector<KeyedRow> sorted = keyed(rows, place);
@@ -114,15 +130,24 @@ void RowSorter::sortFrom(std::size_t place, std::span<int> rows) {
     }
 }
 
-}  // namespace
-
-std::weak_ordering compareGenerically(QStringView a, QStringView b) {
-    return SortKey(a) <=> SortKey(b);
-}
-
-void sortGenerically(std::span<int> rows, int texts, const SortText& textOf) {
+template <class Key>
+void sortBy(std::span<int> rows, int texts, const SortText& textOf) {
     if (rows.empty())
         return;
     const int storedRows = *std::max_element(rows.begin(), rows.end()) + 1;
-    RowSorter(storedRows, texts, textOf).sort(rows);
+    RowSorter<Key>(storedRows, texts, textOf).sort(rows);
+}
+
+}  // namespace
+
+std::weak_ordering compareGenerically(QStringView a, QStringView b) {
+    return GenericKey(a) <=> GenericKey(b);
+}
+
+void sortGenerically(std::span<int> rows, int texts, const SortText& textOf) {
+    sortBy<GenericKey>(rows, texts, textOf);
+}
+
+void sortNumerically(std::span<int> rows, int texts, const SortText& textOf) {
+    sortBy<NumericKey>(rows, texts, textOf);
 }

@@ -1,8 +1,10 @@
-// The generic order of a grid's rows: numbers as numbers, everything else as text.
+// The orders of a grid's rows: the generic one, numbers as numbers and everything else as text, and
+// the numeric one.
 //
-// Two texts that are numbers from end to end are compared by value, any others by the one order of
-// texts (text_order.h). These two rules can run in a circle: 9 < 10 < 1a < 9. So a number is to
-// a text that is none what "0" is to it: all numbers stand together, before "1a" and behind "-a".
+// In the generic order, two texts that are numbers from end to end are compared by value, any
+// others by the one order of texts (text_order.h). These two rules can run in a circle: 9 < 10 < 1a
+// < 9. So a number is to a text that is none what "0" is to it: all numbers stand together, before
+// "1a" and behind "-a".
 #pragma once
 
 #include <QStringView>
@@ -19,3 +21,6 @@ using SortText = std::function<QStringView(int row, int place)>;
 
 // Puts rows in ascending order by that many texts. Rows of which all are equal keep their order.
 void sortGenerically(std::span<int> rows, int texts, const SortText& textOf);
+
+// The same in descending order of the numbers at the texts' beginnings; a text without one is 0.
+void sortNumerically(std::span<int> rows, int texts, const SortText& textOf);

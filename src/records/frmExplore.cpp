@@ -98,7 +98,7 @@ void frmExplore::DoSort() {
     grid.change([](GridCells& cells) {
         cells.setCol(0);
         cells.setColSel(1);
-        cells.Sort();
+        cells.Sort(RowOrder::GenericAscending);
     });
     grid.setRedraw(true);
 }

@@ -62,8 +62,8 @@ QString LCase(const QString& text) {
     return text.toLower();
 }
 
-double Val(const QString& text) {
-    QString packed = text;
+double Val(QStringView text) {
+    QString packed = text.toString();
     packed.removeIf([](QChar c) { return c == kBlank || c == u'\t' || c == u'\n' || c == u'\r'; });
     qsizetype end = isSignAt(packed, 0) ? 1 : 0;
     qsizetype digits = digitsFrom(packed, end);

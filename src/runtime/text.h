@@ -24,4 +24,4 @@ QString LCase(const QString& text);
 // The number at the start of a text, with blanks, tabs and line ends passed over; 0 if there is
 // none. The decimal separator is the full stop whatever the locale. Raises 6 beyond a double's
 // range.
-double Val(const QString& text);
+double Val(QStringView text);

@@ -175,7 +175,7 @@ TEST_F(GridCellsTest, TakeTheirLooksAlongWithColumnsAndRows) {
     cells_.setColPosition(1, 0);
     EXPECT_EQ(colouredCells(), QStringLiteral("--- x-- --- ---"));
     cells_.setCol(0);
-    cells_.Sort();
+    cells_.Sort(RowOrder::GenericAscending);
     EXPECT_EQ(column(0), QStringLiteral("Age|8|9|10"));
     EXPECT_EQ(colouredCells(), QStringLiteral("--- --- x-- ---"));
 }
@@ -183,7 +183,7 @@ TEST_F(GridCellsTest, TakeTheirLooksAlongWithColumnsAndRows) {
 TEST_F(GridCellsTest, AreSortedByTheSelectedColumnsBelowTheHeader) {
     cells_.setCol(0);
     cells_.setColSel(1);
-    cells_.Sort();
+    cells_.Sort(RowOrder::GenericAscending);
     EXPECT_EQ(row(0), QStringLiteral("Name|Age|City"));
     EXPECT_EQ(row(1), QStringLiteral("abe|10|Oslo"));
     EXPECT_EQ(row(2), QStringLiteral("Zed|8|Bern"));
@@ -193,21 +193,21 @@ TEST_F(GridCellsTest, AreSortedByTheSelectedColumnsBelowTheHeader) {
 
 TEST_F(GridCellsTest, AreSortedByOneColumnWhereOneIsSelected) {
     cells_.setCol(0);
-    cells_.Sort();
+    cells_.Sort(RowOrder::GenericAscending);
     EXPECT_EQ(column(2), QStringLiteral("City|Oslo|Rome|Bern"));
 }
 
 TEST_F(GridCellsTest, AreSortedFromLeftToRightWhicheverColumnIsCurrent) {
     cells_.setCol(1);
     cells_.setColSel(0);
-    cells_.Sort();
+    cells_.Sort(RowOrder::GenericAscending);
     EXPECT_EQ(column(2), QStringLiteral("City|Oslo|Bern|Rome"));
 }
 
 TEST_F(GridCellsTest, AreSortedByTheColumnsAsTheyStand) {
     cells_.setColPosition(2, 0);
     cells_.setCol(0);
-    cells_.Sort();
+    cells_.Sort(RowOrder::GenericAscending);
     EXPECT_EQ(column(0), QStringLiteral("City|Bern|Oslo|Rome"));
 }
 
@@ -215,7 +215,7 @@ TEST_F(GridCellsTest, CanHaveMoreRowsInTheHeader) {
     cells_.setFixedRows(2);
     bind({"a", "", "", "b", "", "", "z", "1", "", "y", "2", ""});
     EXPECT_EQ(cells_.Row(), 2);
-    cells_.Sort();
+    cells_.Sort(RowOrder::GenericAscending);
     EXPECT_EQ(column(0), QStringLiteral("a|b|y|z"));
 }
 
@@ -223,7 +223,7 @@ TEST_F(GridCellsTest, CanBeAHeaderAlone) {
     bind({"Name", "Age", "City"});
     EXPECT_EQ(cells_.Rows(), 1);
     EXPECT_EQ(cells_.Row(), 0);
-    cells_.Sort();
+    cells_.Sort(RowOrder::GenericAscending);
     EXPECT_EQ(row(0), QStringLiteral("Name|Age|City"));
 }
 
@@ -238,4 +238,121 @@ TEST_F(GridCellsTest, AreAllNewWhenTheyAreBoundAgain) {
     EXPECT_EQ(cells_.ColWidth(0), GridCells::kDefaultColWidth);
     EXPECT_EQ(colouredCells(), QStringLiteral("--- ---"));
     EXPECT_EQ(cells_.Row(), 1);
+}
+
+TEST_F(GridCellsTest, CanBeCleared) {
+    cells_.setColWidth(1, 900);
+    cells_.setColAlignment(1, ColumnAlignment::Centre);
+    cells_.setCellBackColor(kGrey);
+    cells_.Clear();
+    EXPECT_EQ(cells_.Rows(), 4);
+    EXPECT_EQ(row(0), QStringLiteral("||"));
+    EXPECT_EQ(row(3), QStringLiteral("||"));
+    EXPECT_EQ(colouredCells(), QStringLiteral("--- --- --- ---"));
+    EXPECT_EQ(cells_.ColWidth(1), 900);
+    EXPECT_EQ(cells_.ColAlignment(1), ColumnAlignment::Centre);
+}
+
+TEST_F(GridCellsTest, TakeARowAtTheEnd) {
+    cells_.AddItem(u"Moss\t11\tKiel");
+    EXPECT_EQ(cells_.Rows(), 5);
+    EXPECT_EQ(row(4), QStringLiteral("Moss|11|Kiel"));
+    cells_.AddItem(u"Moss");
+    EXPECT_EQ(row(5), QStringLiteral("Moss||"));
+    cells_.AddItem(u"\t12\t\tbeyond");
+    EXPECT_EQ(row(6), QStringLiteral("|12|"));
+}
+
+TEST_F(GridCellsTest, TakeTheTextsOfARowInTheOrderOfTheColumnsAsTheyStand) {
+    cells_.setColPosition(2, 0);
+    cells_.AddItem(u"Kiel\tMoss\t11");
+    EXPECT_EQ(row(4), QStringLiteral("Kiel|Moss|11"));
+    cells_.setColPosition(0, 2);
+    EXPECT_EQ(row(4), QStringLiteral("Moss|11|Kiel"));
+}
+
+TEST_F(GridCellsTest, LoseARow) {
+    cells_.RemoveItem(2);
+    EXPECT_EQ(column(0), QStringLiteral("Name|Zed|Zed"));
+    EXPECT_EQ(column(1), QStringLiteral("Age|9|8"));
+    EXPECT_EQ(errorOf([&] { cells_.RemoveItem(3); }), 381);
+    EXPECT_EQ(errorOf([&] { cells_.RemoveItem(-1); }), 381);
+}
+
+TEST_F(GridCellsTest, HaveTheRowBeforeForCurrentWhereTheLastIsLost) {
+    select(3, 0, 3, 0);
+    cells_.RemoveItem(3);
+    EXPECT_EQ(cells_.Row(), 2);
+    EXPECT_EQ(cells_.RowSel(), 2);
+}
+
+TEST_F(GridCellsTest, KeepNothingOfARowThatIsLostForTheNextOne) {
+    select(2, 0, 2, 0);
+    cells_.setCellBackColor(kGrey);
+    cells_.RemoveItem(2);
+    cells_.AddItem(u"Moss");
+    EXPECT_EQ(column(0), QStringLiteral("Name|Zed|Zed|Moss"));
+    EXPECT_EQ(row(3), QStringLiteral("Moss||"));
+    EXPECT_EQ(colouredCells(), QStringLiteral("--- --- --- ---"));
+}
+
+TEST_F(GridCellsTest, GetAsManyRowsAsAreNamed) {
+    cells_.setRows(2);
+    EXPECT_EQ(column(0), QStringLiteral("Name|Zed"));
+    cells_.setRows(4);
+    EXPECT_EQ(column(0), QStringLiteral("Name|Zed||"));
+    EXPECT_EQ(row(3), QStringLiteral("||"));
+}
+
+TEST_F(GridCellsTest, GetAsManyColumnsAsAreNamed) {
+    cells_.setColPosition(2, 0);
+    cells_.setColWidth(0, 900);
+    select(1, 2, 1, 2);
+    cells_.setCellBackColor(kGrey);
+    cells_.RemoveItem(2);
+    cells_.setCols(4);
+    EXPECT_EQ(row(0), QStringLiteral("City|Name|Age|"));
+    EXPECT_EQ(row(2), QStringLiteral("Bern|Zed|8|"));
+    EXPECT_EQ(colouredCells(), QStringLiteral("---- --x- ----"));
+    EXPECT_EQ(cells_.ColWidth(0), 900);
+    EXPECT_EQ(cells_.ColWidth(3), GridCells::kDefaultColWidth);
+    cells_.AddItem(u"Kiel\tMoss\t11\tnew");
+    EXPECT_EQ(row(3), QStringLiteral("Kiel|Moss|11|new"));
+    cells_.setCols(1);
+    EXPECT_EQ(row(3), QStringLiteral("Kiel"));
+    EXPECT_EQ(cells_.Col(), 0);
+}
+
+TEST_F(GridCellsTest, CanBeMadeOfNothing) {
+    GridCells cells;
+    cells.setRows(2);
+    cells.setCols(3);
+    EXPECT_EQ(cells.Rows(), 2);
+    EXPECT_EQ(cells.Cols(), 3);
+    EXPECT_EQ(cells.TextMatrix(1, 2), QString());
+    cells.AddItem(u"a\tb\tc");
+    EXPECT_EQ(cells.TextMatrix(2, 2), QStringLiteral("c"));
+}
+
+TEST_F(GridCellsTest, GiveAColourToTheirTexts) {
+    select(1, 1, 1, 1);
+    cells_.setCellForeColor(kGrey);
+    EXPECT_EQ(cells_.look(1, 1).foreColor, kGrey);
+    EXPECT_EQ(cells_.look(1, 1).backColor, 0);
+    EXPECT_EQ(cells_.look(1, 2).foreColor, 0);
+}
+
+TEST_F(GridCellsTest, StandAtTheLeftUntilAColumnIsCentred) {
+    cells_.setColAlignment(2, ColumnAlignment::Centre);
+    EXPECT_EQ(cells_.ColAlignment(1), ColumnAlignment::Left);
+    EXPECT_EQ(cells_.ColAlignment(2), ColumnAlignment::Centre);
+    EXPECT_EQ(errorOf([&] { cells_.setColAlignment(3, ColumnAlignment::Left); }), 381);
+    EXPECT_EQ(errorOf([&] { (void)cells_.ColAlignment(-1); }), 381);
+}
+
+TEST_F(GridCellsTest, AreSortedByTheirNumbersWithTheLargestFirst) {
+    cells_.AddItem(u"Moss");
+    cells_.setCol(1);
+    cells_.Sort(RowOrder::NumericDescending);
+    EXPECT_EQ(column(1), QStringLiteral("Age|10|9|8|"));
 }

@@ -80,11 +80,24 @@ TEST_F(GridModelTest, IsBoldWhereItsCellsAre) {
     EXPECT_FALSE(isBold(model_.headerData(0, Qt::Horizontal, Qt::FontRole)));
 }
 
+TEST_F(GridModelTest, HasItsTextsWhereTheColumnsHaveThem) {
+    const auto alignments = [this](int column) {
+        const QVariant header = model_.headerData(column, Qt::Horizontal, Qt::TextAlignmentRole);
+        const QVariant cell = model_.index(0, column).data(Qt::TextAlignmentRole);
+        EXPECT_EQ(header, cell);
+        return cell.value<Qt::Alignment>();
+    };
+    EXPECT_EQ(alignments(1), Qt::AlignLeft | Qt::AlignVCenter);
+    model_.change([](GridCells& cells) { cells.setColAlignment(1, ColumnAlignment::Centre); });
+    EXPECT_EQ(alignments(1), Qt::AlignCenter);
+    EXPECT_EQ(alignments(0), Qt::AlignLeft | Qt::AlignVCenter);
+}
+
 TEST_F(GridModelTest, TellsViewsOnceOfAllThatAChangeDoes) {
     const QSignalSpy resets(&model_, &QAbstractItemModel::modelReset);
     model_.change([](GridCells& cells) {
         cells.setTextMatrix(1, 0, QStringLiteral("Curie"));
-        cells.Sort();
+        cells.Sort(RowOrder::GenericAscending);
     });
     EXPECT_EQ(resets.count(), 1);
     EXPECT_EQ(model_.index(0, 0).data().toString(), QStringLiteral("abe"));

@@ -14,11 +14,12 @@
 namespace {
 
 // The rows' numbers after a sort by all texts of each.
-std::vector<int> sorted(const std::vector<QStringList>& rows) {
+std::vector<int> sorted(const std::vector<QStringList>& rows,
+                        decltype(&sortGenerically) sort = sortGenerically) {
     std::vector<int> order(rows.size());
     std::iota(order.begin(), order.end(), 0);
     const int texts = rows.empty() ? 0 : static_cast<int>(rows.front().size());
-    sortGenerically(order, texts, [&](int row, int place) -> QStringView {
+    sort(order, texts, [&](int row, int place) -> QStringView {
         return rows[static_cast<std::size_t>(row)][place];
     });
     return order;
@@ -148,3 +149,25 @@ RC_GTEST_PROP(SortGenerically, SortsAsAStableSortByTheWholeRowsWould, ()) {
 }
 
 #endif
+
+TEST(SortNumerically, PutsTheLargestNumberFirst) {
+    EXPECT_EQ(sorted({list({"9"}), list({"100"}), list({"-1"}), list({"99"}), list({"10"})},
+                     sortNumerically),
+              std::vector({1, 3, 4, 0, 2}));
+}
+
+TEST(SortNumerically, ReadsTheNumberAtTheBeginningOfATextAndTakesNoneForZero) {
+    EXPECT_EQ(sorted({list({"-1%"}), list({""}), list({"1 of 2"}), list({"word"}), list({"-0.5"})},
+                     sortNumerically),
+              std::vector({2, 1, 3, 4, 0}));
+}
+
+TEST(SortNumerically, KeepsTheOrderOfRowsThatAreEqual) {
+    EXPECT_EQ(sorted({list({"7", "a"}), list({"7.0", "b"}), list({"8", "c"})},
+                     [](auto rows, int, const auto& textOf) { sortNumerically(rows, 1, textOf); }),
+              std::vector({2, 0, 1}));
+}
+
+TEST(SortNumerically, LetsTheSecondTextDecideWhereTheFirstIsEqual) {
+    EXPECT_EQ(sorted({list({"7", "1"}), list({"7", "2"})}, sortNumerically), std::vector({1, 0}));
+}

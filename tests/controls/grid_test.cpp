@@ -330,6 +330,28 @@ TEST_F(GridTest, PaintsTheBackgroundsOfItsCells) {
     EXPECT_EQ(colourIn(1, 0), grid_.palette().color(QPalette::Base));
 }
 
+TEST_F(GridTest, PaintsTheTextsOfItsCellsInTheirColours) {
+    grid_.change([](GridCells& cells) {
+        cells.setTextMatrix(2, 1, QString(9, u'M'));
+        cells.setRow(2);
+        cells.setCol(1);
+        cells.setCellForeColor(0x0000FF);
+        cells.setRow(1);
+    });
+    const auto isRedIn = [this](int row, int column) {
+        const QImage cell =
+            cellView().grab(grid_.visualRect(grid_.model()->index(row, column))).toImage();
+        for (int x = 0; x < cell.width(); ++x) {
+            const QColor pixel = cell.pixelColor(x, cell.height() / 2);
+            if (pixel.red() > 200 && pixel.green() < 100 && pixel.blue() < 100)
+                return true;
+        }
+        return false;
+    };
+    EXPECT_TRUE(isRedIn(1, 1));
+    EXPECT_FALSE(isRedIn(1, 0));
+}
+
 TEST_F(GridTest, LetsTheTabKeyLeaveIt) {
     EXPECT_FALSE(grid_.tabKeyNavigation());
 }

@@ -187,7 +187,7 @@ TEST_F(ExplorerCells, StandInTheOrderOfWhatIsShownAndNotOfTheDate) {
     cells_.setColPosition(2, 0);
     cells_.setCol(0);
     cells_.setColSel(1);
-    cells_.Sort();
+    cells_.Sort(RowOrder::GenericAscending);
     EXPECT_EQ(cells_.TextMatrix(1, 0), QStringLiteral("Apr 1, 2000"));
     EXPECT_EQ(cells_.TextMatrix(2, 0), QStringLiteral("Jan 1, 1900"));
 }

@@ -121,6 +121,11 @@ void Grid::currentChanged(const QModelIndex& current, const QModelIndex& previou
         model_.select(current);
 }
 
+QItemSelectionModel::SelectionFlags Grid::selectionCommand(const QModelIndex&,
+                                                           const QEvent*) const {
+    return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+}
+
 void Grid::resizeEvent(QResizeEvent* event) {
     QTableView::resizeEvent(event);
     showWidths();
@@ -159,8 +164,7 @@ bool Grid::eventFilter(QObject* watched, QEvent* event) {
             tellRelease(static_cast<QMouseEvent&>(*event));
             return true;
         case QEvent::MouseButtonDblClick:
-            followMouse(static_cast<QMouseEvent&>(*event));
-            Q_EMIT DblClick();
+            tellDoubleClick(static_cast<QMouseEvent&>(*event));
             return true;
         default:
             return QTableView::eventFilter(watched, event);
@@ -188,8 +192,7 @@ void Grid::mouseReleaseEvent(QMouseEvent* event) {
 
 void Grid::mouseDoubleClickEvent(QMouseEvent* event) {
     QTableView::mouseDoubleClickEvent(event);
-    followMouse(*event);
-    Q_EMIT DblClick();
+    tellDoubleClick(*event);
 }
 
 void Grid::followMouse(const QMouseEvent& event) {
@@ -218,6 +221,12 @@ void Grid::tellRelease(const QMouseEvent& event) {
     Q_EMIT MouseUp(event.button(), toTwips(mouse_.x()), toTwips(mouse_.y()));
     if (isDrop)
         Q_EMIT DragDrop();
+}
+
+void Grid::tellDoubleClick(const QMouseEvent& event) {
+    followMouse(event);
+    if (event.button() == Qt::LeftButton)
+        Q_EMIT DblClick();
 }
 
 void Grid::Drag(int column) {

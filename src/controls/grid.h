@@ -1,6 +1,7 @@
 // A grid on the screen: rows of cells below a header that stays.
 #pragma once
 
+#include <QScopeGuard>
 #include <QScopedValueRollback>
 #include <QTableView>
 #include <optional>
@@ -11,8 +12,8 @@
 // measured, so the number of rows costs next to nothing. A column is as wide as ColWidth says, or
 // wider where the columns would leave room.
 //
-// Clicks and arrow keys move the current cell. Its row is shown as selected if it is the only one;
-// as long as there are rows, one of them is current for screen readers.
+// Clicks and keys move the current cell, whatever modifiers are held. Its row is shown as selected
+// if it is the only one; as long as there are rows, one of them is current for screen readers.
 //
 // Positions of the mouse are in twips from the top left corner. They are told while a button is
 // held, wherever the mouse is then.
@@ -24,15 +25,15 @@ class Grid final : public QTableView {
 
     const GridCells& cells() const { return model_.cells(); }
 
-    // Changes the cells by a function that takes them.
-    template <class Change>
-    void change(Change change) {
+    // Changes the cells by steps that take them. What they did before an error is shown as well.
+    template <class Steps>
+    void change(Steps steps) {
         const QScopedValueRollback changing(changing_, true);
-        model_.change(change);
-        showCells();
+        const auto show = qScopeGuard([this] { showCells(); });
+        model_.change(steps);
     }
 
-    // While it is off, nothing is painted.
+    // While it is off, no cell is painted.
     bool Redraw() const { return redraw_; }
     void setRedraw(bool redraw);
 
@@ -64,6 +65,8 @@ class Grid final : public QTableView {
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
 
   private:
     struct Place {
@@ -85,6 +88,7 @@ class Grid final : public QTableView {
     void tellPress(const QMouseEvent& event);
     void tellMove(const QMouseEvent& event);
     void tellRelease(const QMouseEvent& event);
+    void tellDoubleClick(const QMouseEvent& event);
 
     std::optional<int> dropColumn() const;
     void showDrag();

@@ -55,7 +55,7 @@ class GridCells {
     // Takes a row away. Where it was the last and current, the one before it is current then.
     void RemoveItem(int row);
 
-    // How many rows the header has, 1 at the beginning.
+    // How many rows the header has: 1 at the beginning, and never less.
     int FixedRows() const { return fixedRows_; }
     void setFixedRows(int rows) { fixedRows_ = rows; }
 

@@ -13,12 +13,12 @@ class GridModel final : public QAbstractTableModel {
   public:
     const GridCells& cells() const { return cells_; }
 
-    // Changes the cells by a function that takes them; one reset for all that it does.
-    template <class Change>
-    void change(Change change) {
+    // Changes the cells by steps that take them; one reset for all that they do.
+    template <class Steps>
+    void change(Steps steps) {
         beginResetModel();
         const auto end = qScopeGuard([this] { endResetModel(); });
-        change(cells_);
+        steps(cells_);
     }
 
     // Follows a view to the cell on which the user is.

@@ -5,8 +5,10 @@
 
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QTest>
 
 #include "controls/twips.h"
+#include "support/errors.h"
 #include "support/event_counter.h"
 #include "support/printing.h"
 #include "support/recording_host.h"
@@ -103,6 +105,19 @@ TEST_F(GridTest, HasColumnsOfTheirWidthsAndHidesThoseOfNone) {
     EXPECT_FALSE(header().isSectionHidden(3));
 }
 
+TEST_F(GridTest, ShowsWhatAChangeDidBeforeItFailed) {
+    EXPECT_EQ(errorOf([this] {
+                  grid_.change([](GridCells& cells) {
+                      cells.setColWidth(1, 0);
+                      cells.setRow(99);
+                  });
+              }),
+              381);
+    EXPECT_TRUE(header().isSectionHidden(1));
+    EXPECT_TRUE(header().isSectionHidden(3));
+    EXPECT_FALSE(header().isSectionHidden(0));
+}
+
 TEST_F(GridTest, SpreadsItsColumnsOverTheRoomThereIs) {
     grid_.resize(grid_.width() + 30, grid_.height());
     EXPECT_EQ(header().sectionSize(0), 70);
@@ -129,6 +144,14 @@ TEST_F(GridTest, ShowsTheRowThatIsSelectedAlone) {
     EXPECT_EQ(grid_.selectionModel()->selectedRows().front().row(), 1);
     grid_.change([](GridCells& cells) { cells.setRowSel(3); });
     EXPECT_EQ(selectedRows(), 0);
+}
+
+TEST_F(GridTest, ShowsTheCurrentRowAsSelectedWhateverTheUserHoldsDown) {
+    click(cellView(), inCell(1, 0));
+    click(cellView(), inCell(1, 0), Qt::ControlModifier);
+    EXPECT_EQ(grid_.selectionModel()->selectedRows().size(), 1);
+    QTest::keyClick(&grid_, Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ(grid_.selectionModel()->selectedRows().size(), 1);
 }
 
 TEST_F(GridTest, KeepsWhatCodeHasSelectedUntilTheUserActs) {
@@ -235,6 +258,13 @@ TEST_F(GridTest, FiresDblClickOnCellsAndOnTheHeader) {
     doubleClick(headerView(), inHeader(2));
     EXPECT_EQ(doubleClicks.fired(), 2);
     EXPECT_EQ(grid_.cells().Row(), 2);
+}
+
+TEST_F(GridTest, FiresNoDblClickForAnotherButton) {
+    const EventCounter doubleClicks(grid_, &Grid::DblClick);
+    QTest::mouseDClick(&cellView(), Qt::RightButton, {}, inCell(1, 1));
+    QTest::mouseDClick(&headerView(), Qt::RightButton, {}, inHeader(2));
+    EXPECT_EQ(doubleClicks.fired(), 0);
 }
 
 TEST_F(GridTest, EndsADragWithADropWhereTheButtonIsLetGo) {

@@ -93,6 +93,7 @@ void frmCompat::connectEvents() {
     onEvent(ui_->bbCompat, &ButtonBar::Click, this, &frmCompat::bbCompat_Click);
     onEvent(ui_->cbCatCompat, &ComboBox::Click, this, &frmCompat::cbCatCompat_Click);
     onEvent(ui_->cmdClose, &PictureButton::Click, this, &frmCompat::cmdClose_Click);
+    onEvent(ui_->pnlOrdered, &OrderedMatchPage::cmdSearch_Click, this, &frmCompat::cmdSearch_Click);
     onEvent(ui_->lstCompat, &ListBox::Click, this, &frmCompat::lstCompat_Click);
     onEvent(ui_->lstCompat, &ListBox::DblClick, this, &frmCompat::lstCompat_DblClick);
     onEvent(ui_->optBar, &QRadioButton::clicked, this, &frmCompat::optBar_Click);
@@ -112,6 +113,7 @@ void frmCompat::Form_Load() {
         ui_->cbCatCompat->fill(categoryFilter(categoryEntries(*adoCats_)));
         ui_->cbCatCompat->setListIndex(kEverybody);
         ui_->lstCompat->setListIndex(0);
+        ui_->pnlOrdered->SetGrid();
         ui_->bbCompat->setChosenItem(kSinglePerson);
         bbCompat_Click(kTabs, kSinglePerson);
         FillCompatFavourites();
@@ -132,6 +134,14 @@ void frmCompat::Form_KeyDown(QKeyEvent& key) {
 
 void frmCompat::cmdClose_Click() {
     Unload();
+}
+
+void frmCompat::cmdSearch_Click() {
+    trapped(this, [this] {
+        ui_->pnlOrdered->search(
+            *adoPrimaryRS_, {.nameId = mainPerson_->nameId, .birthdate = mainPerson_->birthdate},
+            *ui_->cbCatCompat);
+    });
 }
 
 void frmCompat::openRecordSets() {
@@ -162,6 +172,7 @@ void frmCompat::bbCompat_Click(int, int item) {
 void frmCompat::SingleView(bool sg) {
     ui_->pnlSingle->setVisible(sg);
     ui_->tbCompat->setVisible(sg);
+    ui_->pnlOrdered->setVisible(!sg);
 }
 
 void frmCompat::cbCatCompat_Click() {

@@ -35,13 +35,14 @@ class frmCompat final : public Form {
     void bbCompat_Click(int tab, int item);
     void cbCatCompat_Click();
     void cmdClose_Click();
+    void cmdSearch_Click();
     void lstCompat_Click();
     void lstCompat_DblClick();
     void optBar_Click();
     void optBio_Click();
     void tbCompat_ButtonMenuClick(int index);
 
-    // Shows the controls of the comparison with one person, or hides them.
+    // Shows the controls of the comparison with one person, or those of the ordered match.
     void SingleView(bool sg);
 
     void FillCompatFavourites();

@@ -55,14 +55,25 @@ bool hasCaption(const QWidget& control) {
     return button && !button->text().isEmpty();
 }
 
+// The parts of a kind that the form shows at the moment.
+template <class Part>
+std::vector<const Part*> shownParts(const QWidget& form) {
+    std::vector<const Part*> shown;
+    for (const auto* part : form.findChildren<Part*>()) {
+        if (part->isVisibleTo(&form))
+            shown.push_back(part);
+    }
+    return shown;
+}
+
 // The captions with letters for Alt, each with the name of what it belongs to.
 std::vector<std::pair<QString, std::string>> captionsOf(const QWidget& form) {
     std::vector<std::pair<QString, std::string>> captions;
-    for (const auto* button : form.findChildren<QAbstractButton*>())
+    for (const auto* button : shownParts<QAbstractButton>(form))
         captions.emplace_back(button->text(), nameOf(*button));
-    for (const auto* group : form.findChildren<QGroupBox*>())
+    for (const auto* group : shownParts<QGroupBox>(form))
         captions.emplace_back(group->title(), nameOf(*group));
-    for (const auto* label : form.findChildren<QLabel*>()) {
+    for (const auto* label : shownParts<QLabel>(form)) {
         if (label->buddy())
             captions.emplace_back(label->text(), nameOf(*label));
     }

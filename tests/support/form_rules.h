@@ -15,8 +15,8 @@ Objections objectionsToTabOrder(const QWidget& form);
 // or by its accessible name.
 Objections objectionsToNames(const QWidget& form);
 
-// No two captions of the window share the letter that Alt goes to. (Entries of a menu may: there
-// the letter goes from one to the next.)
+// No two captions that are shown together share the letter that Alt goes to. (Entries of a menu
+// may: there the letter goes from one to the next.)
 Objections objectionsToMnemonics(const QWidget& form);
 
 // The form fits the smallest screen that Ondara is made for.

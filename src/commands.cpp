@@ -5,6 +5,7 @@
 
 #include "analyses/frmBirthdayToday.h"
 #include "analyses/frmCompat.h"
+#include "analyses/frmCritical.h"
 #include "analyses/frmQuick.h"
 #include "controls/button_menu.h"
 #include "controls/combo_box.h"
@@ -69,7 +70,8 @@ bool Commands::isPersonChosen(const QString& request) {
 }
 
 void Commands::cmdDetails_Click() {
-    isPersonChosen(QStringLiteral("Select a person from the list first."));
+    if (isPersonChosen(QStringLiteral("Select a person from the list first.")))
+        openSlowForm<frmCritical>();
 }
 
 void Commands::mnuMatchDabatase_Click() {

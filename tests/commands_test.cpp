@@ -12,6 +12,7 @@
 
 #include "analyses/frmBirthdayToday.h"
 #include "analyses/frmCompat.h"
+#include "analyses/frmCritical.h"
 #include "analyses/frmQuick.h"
 #include "controls/button_menu.h"
 #include "controls/combo_box.h"
@@ -100,6 +101,15 @@ TEST_F(CommandsTest, AskForNobodyWhoIsThere) {
     for (const char* command : {"mnuFind", "mnuReport", "mnuViewDetails"})
         trigger(command);
     EXPECT_TRUE(host_.messages().empty());
+}
+
+TEST_F(CommandsTest, OpenTheDetailsOfWhoIsChosen) {
+    startWith(kAnna);
+    expectForm<frmCritical>("mnuViewDetails");
+    QString caption;
+    onNextForm<frmCritical>([&](frmCritical& form) { caption = form.windowTitle(); });
+    Q_EMIT control<PictureButton>("cmdDetails").Click();
+    EXPECT_EQ(caption, QStringLiteral("Details for Anna Smith (Libra)"));
 }
 
 TEST_F(CommandsTest, HaveThePersonOfTheHiddenListOnceAQuickDateIsCharted) {

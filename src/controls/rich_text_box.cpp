@@ -10,6 +10,8 @@
 
 namespace {
 
+constexpr double kMargin = 8;
+
 // The colour of a text as it was set, beside the one that it is painted in.
 constexpr int kColourAsSet = QTextFormat::UserProperty;
 
@@ -30,6 +32,7 @@ QTextCharFormat inColour(Long colour, const QPalette& palette) {
 RichTextBox::RichTextBox(QWidget* parent) : QTextEdit(parent) {
     setReadOnly(true);
     setUndoRedoEnabled(false);
+    document()->setDocumentMargin(kMargin);
     setTabChangesFocus(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
 }

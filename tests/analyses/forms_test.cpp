@@ -1,13 +1,15 @@
 // What holds for every form, for those of the analyses.
 #include "analyses/frmBirthdayToday.h"
 #include "analyses/frmCompat.h"
+#include "analyses/frmCritical.h"
 #include "analyses/frmQuick.h"
 #include "support/every_form.h"
 
 namespace {
 
-using Forms = testing::Types<Drawn<frmBirthdayToday, OnEscape::Closes>,
-                             Drawn<frmCompat, OnEscape::Closes>, Drawn<frmQuick, OnEscape::Closes>>;
+using Forms =
+    testing::Types<Drawn<frmBirthdayToday, OnEscape::Closes>, Drawn<frmCompat, OnEscape::Closes>,
+                   Drawn<frmCritical, OnEscape::Closes>, Drawn<frmQuick, OnEscape::Closes>>;
 INSTANTIATE_TYPED_TEST_SUITE_P(Analyses, EveryForm, Forms);
 
 }  // namespace

@@ -12,6 +12,7 @@ MainWindowTest::MainWindowTest()
     : family_(addCategory(QStringLiteral("Family"))),
       friends_(addCategory(QStringLiteral("Friends"))) {
     using modCycles::DateSerial;
+    directory_.addInterpretations();
     addPerson({.name = QStringLiteral("Smith"),
                .firstName = QStringLiteral("Anna"),
                .birthdate = Value(DateSerial(1972, 10, 20)),

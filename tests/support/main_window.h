@@ -12,8 +12,8 @@
 
 class frmMain;
 
-// A fresh program directory with two categories and three people, and the main window over it,
-// loaded when a test asks for it.
+// A fresh program directory with two categories and three people, and with the interpretations that
+// the program ships; and the main window over it, loaded when a test asks for it.
 class MainWindowTest : public testing::Test {
   protected:
     MainWindowTest();

@@ -23,6 +23,10 @@ ProgramDirectory::ProgramDirectory(RecordingHost& host) {
     runSql(interpretation(), textOf(QStringLiteral(ONDARA_DATA "/interpretation_schema.sql")));
 }
 
+void ProgramDirectory::addInterpretations() {
+    runSql(interpretation(), textOf(QStringLiteral(ONDARA_DATA "/interpretations.sql")));
+}
+
 void ProgramDirectory::dropConstraints() {
     QFile::remove(people());
     runSql(people(), QStringLiteral(R"(

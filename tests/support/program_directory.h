@@ -18,6 +18,9 @@ class ProgramDirectory {
     QString people() const { return path(QStringLiteral("Ondara2.mdb")); }
     QString interpretation() const { return path(QStringLiteral("Interp.mdb")); }
 
+    // Fills the interpretation database with the texts that the program ships.
+    void addInterpretations();
+
     // Makes the person database anew without its constraints, so that a birth date can be Null and
     // a category can be one that does not exist.
     void dropConstraints();

@@ -40,6 +40,12 @@ void RecordingHost::setRegistryValue(Long root, const QString& key, const QStrin
     registry_[{root, key, name}] = value;
 }
 
+Date RecordingHost::now() const {
+    if (clockError_)
+        throw RuntimeError(*clockError_);
+    return now_;
+}
+
 QLocale RecordingHost::locale() const {
     return QLocale(QLocale::English, QLocale::UnitedKingdom);
 }

@@ -49,12 +49,16 @@ class RecordingHost final : public Host {
     void onPaintWindows(std::function<void()> action) { onPaintWindows_ = std::move(action); }
 
     void setNow(Date now) { now_ = now; }
+
+    // Whoever asks for the time from now on gets this error.
+    void breakClock(ErrorNumber error) { clockError_ = error; }
+
     void setProgramDirectory(const QString& directory) { programDirectory_ = directory; }
     void setRegistryValue(Long root, const QString& key, const QString& name,
                           const RegistryValue& value);
     void setAnotherInstanceRuns(bool runs) { anotherInstanceRuns_ = runs; }
 
-    Date now() const override { return now_; }
+    Date now() const override;
     QLocale locale() const override;
     QString shortDate(Date date) const override;
     QString shortTime(Date date) const override;
@@ -83,6 +87,7 @@ class RecordingHost final : public Host {
 
     HostInForce inForce_{*this};
     Date now_;
+    std::optional<ErrorNumber> clockError_;
     QString programDirectory_;
     bool anotherInstanceRuns_ = false;
     std::vector<Expected> expected_;  // those still to come, in order

@@ -2,6 +2,7 @@
 #include "controls/date_picker.h"
 
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 
 #include "controls/quiet_calendar.h"
@@ -61,6 +62,8 @@ void DatePicker::setEmpty() {
 }
 
 void DatePicker::showValue(QDate value) {
+    if (telling_)
+        return;
     if (empty_) {
         empty_ = false;
         const QSignalBlocker quiet(this);
@@ -80,11 +83,23 @@ void DatePicker::showMinDate(QDate minDate) {
 // tells of the field's date also when Enter or the loss of the focus has left it as it was.
 void DatePicker::userShows(QDate day) {
     if (!empty_) {
-        shows(day);
+        tell([&] { shows(day); });
     } else if (day != kNoDate) {
         setValue(fromQDate(day));
-        fireChange();
+        tell([&] { fireChange(); });
     }
+}
+
+// The user may be in the middle of a number. So the text is left alone while the change is told of,
+// and shows another date only if it ends on another.
+void DatePicker::tell(const std::function<void()>& change) {
+    {
+        const QScopedValueRollback telling(telling_, true);
+        change();
+    }
+    const QDate value = toQDate(Value());
+    if (!empty_ && date() != value)
+        setDate(value);
 }
 
 void DatePicker::beginToday() {

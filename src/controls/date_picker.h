@@ -2,13 +2,15 @@
 #pragma once
 
 #include <QDateEdit>
+#include <functional>
 
 #include "controls/date_control.h"
 
 class QuietCalendar;
 
-// Change is fired when the user has changed the date. A window's shortcut for Ctrl+A stays the
-// window's while the field has the focus.
+// Change is fired when the user has changed the date. A date that code sets while it hears of that
+// is the value at once, and is shown after it. A window's shortcut for Ctrl+A stays the window's
+// while the field has the focus.
 //
 // The field can be empty. It has a date again when code sets one or the user begins: a key that
 // types or steps starts from today, and the calendar opens on today. Value is today while it is
@@ -45,9 +47,11 @@ class DatePicker final : public QDateEdit, public DateControl {
 
   private:
     void userShows(QDate day);
+    void tell(const std::function<void()>& change);
     void beginToday();
     void followPalette();
 
     QuietCalendar* calendar_ = nullptr;  // the one that drops down
     bool empty_ = false;
+    bool telling_ = false;  // of a change by the user
 };

@@ -456,6 +456,14 @@ TEST_F(CriticalViewer, KeepsTheDayWhenTheMonthIsChanged) {
     EXPECT_EQ(textOf("lblEmotPeak_0"), finds.emotional.peaks[0].text);
 }
 
+TEST_F(CriticalViewer, LetsADayOfTwoDigitsBeTyped) {
+    open();
+    picker().setSelectedSection(QDateTimeEdit::DaySection);
+    type(picker(), QStringLiteral("25"));
+    EXPECT_EQ(picker().Value(), DateSerial(2000, 3, 25));
+    EXPECT_EQ(textOf("lblDateToday"), QStringLiteral("25/03/2000"));
+}
+
 TEST_F(CriticalViewer, LooksUpTheRowOfADayThatIsCriticalInAllCycles) {
     openBorn(kPicked, kPicked);
     EXPECT_EQ(interpretation(), storedText(modCycles::DayLevels{0, 0, 0}));
@@ -530,6 +538,7 @@ TEST_F(CriticalViewer, StaysOnTheFirstOfTheMonthWhenTheSearchFails) {
     host_.expectMessage(trappedMessage(errorText(ErrorNumber::DeviceIo)));
     pick(DateSerial(2000, 5, 31));
     EXPECT_EQ(picker().Value(), DateSerial(2000, 5, 1));
+    EXPECT_EQ(picker().text(), QStringLiteral("1 May 2000"));
     EXPECT_EQ(textOf("lblAge"), readDay(kAnnasBirth, DateSerial(2000, 5, 31)).age);
     EXPECT_EQ(textsOf("lblEmot"), QStringList({QString(), QString(), QString()}));
     EXPECT_EQ(shownOf("imgSmileP"), QStringLiteral("..."));

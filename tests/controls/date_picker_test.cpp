@@ -62,6 +62,29 @@ TEST_F(DatePickerTest, TakesNoYearThatIsTypedInPart) {
     EXPECT_EQ(changes_.fired(), 1);
 }
 
+// A form may look at other dates by the control while it hears of a change.
+TEST_F(DatePickerTest, GoesOnBeingTypedInWhenItsChangeMovesItThereAndBack) {
+    QObject::connect(&picker_, &DatePicker::Change, [this] {
+        const Integer day = picker_.Day();
+        picker_.setDay(1);
+        picker_.setDay(day);
+    });
+    picker_.setSelectedSection(QDateTimeEdit::DaySection);
+    type(picker_, QStringLiteral("25"));
+    EXPECT_EQ(picker_.Value(), DateSerial(2000, 3, 25));
+    EXPECT_EQ(picker_.text(), QStringLiteral("25 March 2000"));
+    EXPECT_EQ(changes_.fired(), 2);
+}
+
+TEST_F(DatePickerTest, ShowsTheDateOnWhichItsChangeLeavesIt) {
+    QObject::connect(&picker_, &DatePicker::Change, [this] { picker_.setDay(1); });
+    pressKey(picker_, Qt::Key_Home);
+    pressKey(picker_, Qt::Key_Up);
+    EXPECT_EQ(picker_.Value(), DateSerial(2000, 3, 1));
+    EXPECT_EQ(picker_.text(), QStringLiteral("1 March 2000"));
+    EXPECT_EQ(changes_.fired(), 1);
+}
+
 TEST_F(DatePickerTest, FiresChangeForADayPickedFromItsCalendar) {
     click(picker_, {picker_.width() - 8, picker_.height() / 2});
     QCalendarWidget& calendar = *picker_.calendarWidget();
@@ -113,6 +136,14 @@ TEST_F(EmptyDatePicker, HasADateAgainWhenCodeSetsOne) {
         EXPECT_TRUE(picker_.isEmpty());
     }
     EXPECT_EQ(changes_.fired(), 0);
+}
+
+TEST_F(EmptyDatePicker, IsEmptyAgainWhenItsChangeEmptiesIt) {
+    QObject::connect(&picker_, &DatePicker::Change, [this] { picker_.setEmpty(); });
+    type(picker_, QStringLiteral("7"));
+    EXPECT_TRUE(picker_.isEmpty());
+    EXPECT_EQ(picker_.text().trimmed(), QString());
+    EXPECT_EQ(changes_.fired(), 1);
 }
 
 TEST_F(EmptyDatePicker, BeginsTodayWithADayThatIsTyped) {

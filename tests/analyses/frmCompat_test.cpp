@@ -176,6 +176,7 @@ TEST_F(Comparison, TurnsBackToTheBarsForEveryNewOne) {
 
 TEST_F(Comparison, OpensTheCardOfTheRowThatIsDoubleClicked) {
     open();
+    clickRow(1);
     Long handedOver = 0;
     QString name;
     onNextForm<frmZoom>([&](frmZoom& card) {
@@ -185,7 +186,6 @@ TEST_F(Comparison, OpensTheCardOfTheRowThatIsDoubleClicked) {
         EXPECT_EQ(card.parentWidget(), form_.get());
     });
     const QModelIndex row = list().model()->index(1, 0);
-    clickRow(1);
     doubleClick(*list().viewport(), list().visualRect(row).center());
     EXPECT_EQ(handedOver, list().ItemData(1));
     EXPECT_EQ(name, QStringLiteral("Zed (15)"));
@@ -194,6 +194,7 @@ TEST_F(Comparison, OpensTheCardOfTheRowThatIsDoubleClicked) {
 
 TEST_F(Comparison, EndsTheProgramForADoubleClickThatFindsNobodySelected) {
     open();
+    ASSERT_EQ(list().ListIndex(), -1);
     host_.expectMessage(QStringLiteral("Run-time error '381':\n\nInvalid property array index"));
     QWidget& rows = *list().viewport();
     doubleClick(rows, rows.rect().bottomLeft() + QPoint(8, -8));

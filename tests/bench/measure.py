@@ -30,6 +30,7 @@ MEMORY_AIM = {10: 1.5, 1_000: 1.5, 100_000: 3}
 LISTED_AIM = {100_000: 120}
 CLICKED_AIM = {people: 8 for people in PEOPLE}
 BIRTHDAY_AIM = {people: 30 for people in PEOPLE}
+COMPARED_AIM = {people: 10 for people in PEOPLE}
 CARD_AIM = {people: 8 for people in PEOPLE}
 STEP_AIM = {people: 2 for people in PEOPLE}
 UPDATE_AIM = {people: 50 for people in PEOPLE}
@@ -52,6 +53,7 @@ ROUTINES = [
     ('category picked', 'pickCategory', {}),
     ('name clicked to chart painted', 'clickName', CLICKED_AIM),
     ('day picked to birthdays painted', 'pickBirthday', BIRTHDAY_AIM),
+    ('other clicked to match painted', 'clickOther', COMPARED_AIM),
     ('person\'s card opened to painted', 'openCard', CARD_AIM),
     ('person manager opened to painted', 'openManager', {}),
     ('stepped to the next person', 'stepPerson', STEP_AIM),

@@ -27,6 +27,12 @@ constexpr int kSinglePerson = 1;
 
 constexpr int kEverybody = 0;  // the filter's first entry
 
+// 0xBBGGRR
+constexpr Long kEmotionalColour = 0x800000;
+constexpr Long kPhysicalColour = 0x0000FF;
+constexpr Long kIntellectualColour = 0x008000;
+constexpr Long kAverageColour = 0x800080;
+
 const QLatin1String kChartFont("Arial");
 constexpr int kChartFontPoints = 8;
 
@@ -52,14 +58,14 @@ void frmCompat::setUpControls() {
         QStringLiteral("Compare"),
         {{QStringLiteral("Single Person"), QIcon(QStringLiteral(":/art/compatibility.png"))},
          {QStringLiteral("Ordered Match"), QIcon(QStringLiteral(":/art/ranking.png"))}});
-    for (CycleLabel* label : {ui_->Label3, ui_->lblE})
-        label->setCycle(CycleColour::Emotional);
-    for (CycleLabel* label : {ui_->Label4, ui_->lblP})
-        label->setCycle(CycleColour::Physical);
-    for (CycleLabel* label : {ui_->Label9, ui_->lblI})
-        label->setCycle(CycleColour::Intellectual);
-    for (CycleLabel* label : {ui_->lblAvg, ui_->lblSign})
-        label->setCycle(CycleColour::Average);
+    for (ColouredLabel* label : {ui_->Label3, ui_->lblE})
+        label->setForeColor(kEmotionalColour);
+    for (ColouredLabel* label : {ui_->Label4, ui_->lblP})
+        label->setForeColor(kPhysicalColour);
+    for (ColouredLabel* label : {ui_->Label9, ui_->lblI})
+        label->setForeColor(kIntellectualColour);
+    for (ColouredLabel* label : {ui_->lblAvg, ui_->lblSign})
+        label->setForeColor(kAverageColour);
     ui_->pgbAverage->setCycle(CycleColour::Average);
 }
 

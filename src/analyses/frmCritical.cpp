@@ -22,12 +22,15 @@ constexpr int kGroup = 1;
 constexpr int kTodayItem = 1;
 constexpr int kCriticalItem = 2;
 
+// Emotional, physical, intellectual and average, 0xBBGGRR.
+constexpr std::array<Long, 4> kColours{0xFF0000, 0x0000FF, 0x008000, 0x400040};
+
 std::vector<ButtonBar::Item> views() {
     return {{QStringLiteral("Today"), QIcon(QStringLiteral(":/art/today.png"))},
             {QStringLiteral("Critical/Peak"), QIcon(QStringLiteral(":/art/critical.png"))}};
 }
 
-void showDay(CycleLabel& label, const FoundDay& day) {
+void showDay(ColouredLabel& label, const FoundDay& day) {
     label.setText(day.text);
     label.setFontBold(day.isToday);
 }
@@ -94,22 +97,21 @@ void frmCritical::gatherViews() {
 }
 
 void frmCritical::colourCycles() {
-    const std::array<std::vector<CycleLabel*>, 4> captions{{{ui_->Label1_0, ui_->Label1_1},
-                                                            {ui_->Label7_1, ui_->Label2},
-                                                            {ui_->Label7_2, ui_->Label3},
-                                                            {ui_->Label7_3}}};
-    const auto colour = [](const std::vector<CycleLabel*>& labels, CycleColour cycle) {
-        for (CycleLabel* label : labels)
-            label->setCycle(cycle);
+    const std::array<std::vector<ColouredLabel*>, 4> captions{{{ui_->Label1_0, ui_->Label1_1},
+                                                               {ui_->Label7_1, ui_->Label2},
+                                                               {ui_->Label7_2, ui_->Label3},
+                                                               {ui_->Label7_3}}};
+    const auto colour = [](const std::vector<ColouredLabel*>& labels, Long foreColor) {
+        for (ColouredLabel* label : labels)
+            label->setForeColor(foreColor);
     };
     for (std::size_t i = 0; i < captions.size(); ++i) {
-        const auto cycle = static_cast<CycleColour>(i);
-        colour(captions[i], cycle);
-        lblToday_[i]->setCycle(cycle);
-        bars_[i]->setColour(cycle);
+        colour(captions[i], kColours[i]);
+        lblToday_[i]->setForeColor(kColours[i]);
+        bars_[i]->setColour(kColours[i]);
         if (i < slots_.size()) {
-            colour(slots_[i].critical, cycle);
-            colour(slots_[i].peaks, cycle);
+            colour(slots_[i].critical, kColours[i]);
+            colour(slots_[i].peaks, kColours[i]);
         }
     }
 }

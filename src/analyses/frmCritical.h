@@ -12,7 +12,7 @@
 #include "store/recordset.h"
 
 class BarShape;
-class CycleLabel;
+class ColouredLabel;
 class QLabel;
 struct DayReading;
 struct SpanFinds;
@@ -42,8 +42,8 @@ class frmCritical final : public Form {
   private:
     // The slots of one cycle; a picture stands beside the peak's label of the same index.
     struct Slots {
-        std::vector<CycleLabel*> critical;
-        std::vector<CycleLabel*> peaks;
+        std::vector<ColouredLabel*> critical;
+        std::vector<ColouredLabel*> peaks;
         std::vector<QLabel*> smiles;
         std::vector<QLabel*> sads;
     };
@@ -68,7 +68,7 @@ class frmCritical final : public Form {
 
     std::unique_ptr<Ui::frmCritical> ui_;
     std::array<Slots, 3> slots_;  // emotional, physical, intellectual
-    std::array<CycleLabel*, 4> lblToday_;
+    std::array<ColouredLabel*, 4> lblToday_;
     std::array<BarShape*, 4> bars_;  // of the same values
     std::vector<QWidget*> todayView_;
     std::vector<QWidget*> criticalView_;

@@ -12,13 +12,23 @@
 #include "store/statements.h"
 #include "ui_frmQuick.h"
 
+namespace {
+
+// 0xBBGGRR
+constexpr Long kEmotionalColour = 0xC00000;
+constexpr Long kPhysicalColour = 0x0000FF;
+constexpr Long kIntellectualColour = 0x008000;
+constexpr Long kAverageColour = 0x800080;
+
+}  // namespace
+
 frmQuick::frmQuick(QWidget* owner) : Form(owner), ui_(std::make_unique<Ui::frmQuick>()) {
     ui_->setupUi(this);
-    ui_->lblE->setCycle(CycleColour::Emotional);
-    ui_->lblP->setCycle(CycleColour::Physical);
-    ui_->lblI->setCycle(CycleColour::Intellectual);
-    ui_->lblAvg->setCycle(CycleColour::Average);
-    ui_->lblSign->setCycle(CycleColour::Average);
+    ui_->lblE->setForeColor(kEmotionalColour);
+    ui_->lblP->setForeColor(kPhysicalColour);
+    ui_->lblI->setForeColor(kIntellectualColour);
+    ui_->lblAvg->setForeColor(kAverageColour);
+    ui_->lblSign->setForeColor(kAverageColour);
     onEvent(ui_->cmdClose, &PictureButton::Click, this, &frmQuick::cmdClose_Click);
     onEvent(ui_->cmdGo, &PictureButton::Click, this, &frmQuick::cmdGo_Click);
     onEvent(ui_->dtpQuick, &DatePicker::Change, this, &frmQuick::dtpQuick_Change);

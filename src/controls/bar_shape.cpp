@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "controls/colour_mix.h"
+#include "controls/text_colours.h"
 #include "controls/twips.h"
 
 namespace {
@@ -30,7 +31,7 @@ void BarShape::setWidth(double width) {
     update();
 }
 
-void BarShape::setColour(CycleColour colour) {
+void BarShape::setColour(Long colour) {
     colour_ = colour;
     update();
 }
@@ -40,6 +41,6 @@ void BarShape::paintEvent(QPaintEvent*) {
     const int origin = mapTo(window(), QPoint(0, 0)).x();
     const int from = toPixels(left_) - origin;
     const int to = toPixels(left_ + width_) - origin;
-    const QColor colour = colour_ ? cycleColour(*colour_, palette()) : lineColour(palette());
+    const QColor colour = colour_ != 0 ? textColour(colour_, palette()) : lineColour(palette());
     QPainter(this).fillRect(from, 0, to - from, height(), colour);
 }

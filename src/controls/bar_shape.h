@@ -2,14 +2,13 @@
 #pragma once
 
 #include <QWidget>
-#include <optional>
 
-#include "controls/cycle_colours.h"
+#include "cycles/integers.h"
 
 // Paints as much of the bar as lies within the widget, over the widget's whole height. Left and
 // Width are twips and count from the left edge of the window, wherever the widget lies there, so
-// bars in several rows of a layout hang on one line. It has a cycle's colour, or else that of
-// lines.
+// bars in several rows of a layout hang on one line. It is painted in a shade of its colour that
+// stands out from the palette in force; without a colour in that of lines.
 class BarShape final : public QWidget {
     Q_OBJECT
 
@@ -21,7 +20,7 @@ class BarShape final : public QWidget {
     double Width() const { return width_; }
     void setWidth(double width);
 
-    void setColour(CycleColour colour);
+    void setColour(Long colour);  // 0xBBGGRR; 0 for none
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -29,5 +28,5 @@ class BarShape final : public QWidget {
   private:
     double left_ = 0;
     double width_ = 0;
-    std::optional<CycleColour> colour_;
+    Long colour_ = 0;
 };

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "analyses/compat_driver.h"
+#include "controls/coloured_label.h"
 #include "controls/cycle_colours.h"
 #include "controls/month_view.h"
 #include "controls/picture_button.h"
@@ -31,9 +32,8 @@ class Comparison : public CompatTest {
         return false;
     }
 
-    void expectColour(const char* label, CycleColour colour) {
-        const QPalette palette = of<QLabel>(label).palette();
-        EXPECT_EQ(palette.color(QPalette::WindowText), cycleColour(colour, palette)) << label;
+    void expectColour(const char* label, Long colour) {
+        EXPECT_EQ(of<ColouredLabel>(label).ForeColor(), colour) << label;
     }
 };
 
@@ -71,13 +71,13 @@ TEST_F(Comparison, CallsItsControlsByTheirTexts) {
 TEST_F(Comparison, GivesItsLabelsTheColoursOfTheCycles) {
     open();
     for (const char* label : {"Label3", "lblE"})
-        expectColour(label, CycleColour::Emotional);
+        expectColour(label, 0x800000);
     for (const char* label : {"Label4", "lblP"})
-        expectColour(label, CycleColour::Physical);
+        expectColour(label, 0x0000FF);
     for (const char* label : {"Label9", "lblI"})
-        expectColour(label, CycleColour::Intellectual);
+        expectColour(label, 0x008000);
     for (const char* label : {"lblAvg", "lblSign"})
-        expectColour(label, CycleColour::Average);
+        expectColour(label, 0x800080);
 }
 
 TEST_F(Comparison, ComparesWithTheRowThatIsClicked) {

@@ -8,7 +8,7 @@
 #include "analyses/day_analysis.h"
 #include "controls/bar_shape.h"
 #include "controls/button_bar.h"
-#include "controls/cycle_label.h"
+#include "controls/coloured_label.h"
 #include "controls/date_picker.h"
 #include "controls/month_view.h"
 #include "controls/picture_button.h"
@@ -113,7 +113,7 @@ class CriticalViewer : public MainWindowTest {
 
     QString boldOf(const char* array) {
         QString marks;
-        for (const CycleLabel* label : membersOf<CycleLabel>(array))
+        for (const ColouredLabel* label : membersOf<ColouredLabel>(array))
             marks += label->FontBold() ? u'x' : u'.';
         return marks;
     }
@@ -280,7 +280,7 @@ TEST_F(CriticalViewer, DrawsItsBarsOfTheUnroundedValues) {
 TEST_F(CriticalViewer, HangsItsBarsOnTheBaseLineOfTheWindow) {
     open();
     auto& bar = of<BarShape>("barEmot");
-    const QColor colour = cycleColour(CycleColour::Emotional, bar.palette());
+    const QColor colour = textColour(0xFF0000, bar.palette());
     const int row = bar.mapTo(form_.get(), bar.rect().center()).y();
     const int line = toPixels(4867);
     const int length = toPixels(1747);
@@ -309,20 +309,15 @@ TEST_F(CriticalViewer, HasALineThroughTheBaseOfItsBars) {
 
 TEST_F(CriticalViewer, IsInOneColourForEachCycle) {
     open();
-    const auto expectColour = [&](const QWidget& label, CycleColour cycle) {
-        EXPECT_EQ(label.palette().color(QPalette::WindowText), cycleColour(cycle, label.palette()))
-            << qPrintable(label.objectName());
-    };
-    const std::pair<CycleColour, std::vector<const char*>> labels[] = {
-        {CycleColour::Emotional,
-         {"Label1_0", "Label1_1", "lblToday_0", "lblEmot_2", "lblEmotPeak_0"}},
-        {CycleColour::Physical, {"Label7_1", "Label2", "lblToday_1", "lblPhys_3", "lblPhysPeak_2"}},
-        {CycleColour::Intellectual,
-         {"Label7_2", "Label3", "lblToday_2", "lblIntel_0", "lblIntelPeak_1"}},
-        {CycleColour::Average, {"Label7_3", "lblToday_3"}}};
-    for (const auto& [cycle, names] : labels)
+    const std::pair<Long, std::vector<const char*>> labels[] = {
+        {0xFF0000, {"Label1_0", "Label1_1", "lblToday_0", "lblEmot_2", "lblEmotPeak_0"}},
+        {0x0000FF, {"Label7_1", "Label2", "lblToday_1", "lblPhys_3", "lblPhysPeak_2"}},
+        {0x008000, {"Label7_2", "Label3", "lblToday_2", "lblIntel_0", "lblIntelPeak_1"}},
+        {0x400040, {"Label7_3", "lblToday_3"}}};
+    for (const auto& [colour, names] : labels) {
         for (const char* name : names)
-            expectColour(of<CycleLabel>(name), cycle);
+            EXPECT_EQ(of<ColouredLabel>(name).ForeColor(), colour) << name;
+    }
 }
 
 TEST_F(CriticalViewer, ListsTheDaysOfTheMonthFromItsFirstOn) {

@@ -4,7 +4,7 @@
 #include <QLabel>
 
 #include "analyses/compat_verdict.h"
-#include "controls/cycle_colours.h"
+#include "controls/coloured_label.h"
 #include "controls/date_picker.h"
 #include "controls/list_box.h"
 #include "controls/picture_button.h"
@@ -87,15 +87,13 @@ TEST_F(QuickMatch, CallsItsControlsByTheirTexts) {
 
 TEST_F(QuickMatch, GivesEachPercentageTheColourOfItsCycle) {
     open();
-    const std::pair<const char*, CycleColour> labels[] = {{"lblE", CycleColour::Emotional},
-                                                          {"lblP", CycleColour::Physical},
-                                                          {"lblI", CycleColour::Intellectual},
-                                                          {"lblAvg", CycleColour::Average},
-                                                          {"lblSign", CycleColour::Average}};
-    for (const auto& [name, colour] : labels) {
-        const QPalette palette = of<QLabel>(name).palette();
-        EXPECT_EQ(palette.color(QPalette::WindowText), cycleColour(colour, palette)) << name;
-    }
+    const std::pair<const char*, Long> labels[] = {{"lblE", 0xC00000},
+                                                   {"lblP", 0x0000FF},
+                                                   {"lblI", 0x008000},
+                                                   {"lblAvg", 0x800080},
+                                                   {"lblSign", 0x800080}};
+    for (const auto& [name, colour] : labels)
+        EXPECT_EQ(of<ColouredLabel>(name).ForeColor(), colour) << name;
 }
 
 TEST_F(QuickMatch, ComparesAtEveryChangeOfTheDate) {

@@ -9,18 +9,19 @@ namespace {
 
 constexpr int kBarLeft = 30;  // pixels from the window's edge
 constexpr int kBarRow = 15;
+constexpr Long kRed = 0x0000FF;
 
 class BarShapeTest : public testing::Test {
   protected:
     BarShapeTest() {
         window_.resize(200, 40);
         bar_.setGeometry(kBarLeft, 10, 100, 20);
-        bar_.setColour(CycleColour::Physical);
+        bar_.setColour(kRed);
     }
 
     // The first pixel of the window that has the bar's colour, and the one behind the last.
     std::pair<int, int> painted() {
-        const QColor colour = cycleColour(CycleColour::Physical, window_.palette());
+        const QColor colour = textColour(kRed, window_.palette());
         const QImage image = window_.grab().toImage();
         int from = -1;
         int to = -1;

@@ -13,6 +13,7 @@
 #include "controls/month_view.h"
 #include "controls/picture_button.h"
 #include "controls/rich_text_box.h"
+#include "controls/text_colours.h"
 #include "controls/twips.h"
 #include "runtime/event.h"
 #include "runtime/qt_dates.h"

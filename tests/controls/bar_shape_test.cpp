@@ -5,6 +5,8 @@
 
 #include <QImage>
 
+#include "controls/text_colours.h"
+
 namespace {
 
 constexpr int kBarLeft = 30;  // pixels from the window's edge

@@ -232,12 +232,16 @@ TEST_F(GridCellsTest, AreAllNewWhenTheyAreBoundAgain) {
     cells_.setColWidth(0, 900);
     cells_.setCellBackColor(kGrey);
     cells_.setRow(3);
+    cells_.setCol(2);
     bind({"Name", "Age", "City", "Curie", "7", "Paris"});
     EXPECT_EQ(row(0), QStringLiteral("Name|Age|City"));
     EXPECT_EQ(row(1), QStringLiteral("Curie|7|Paris"));
     EXPECT_EQ(cells_.ColWidth(0), GridCells::kDefaultColWidth);
     EXPECT_EQ(colouredCells(), QStringLiteral("--- ---"));
     EXPECT_EQ(cells_.Row(), 1);
+    EXPECT_EQ(cells_.RowSel(), 1);
+    EXPECT_EQ(cells_.Col(), 0);
+    EXPECT_EQ(cells_.ColSel(), 0);
 }
 
 TEST_F(GridCellsTest, CanBeCleared) {

@@ -61,8 +61,14 @@ TEST(GenericOrder, SortsDatesInWordsByTheirLetters) {
               list({"Apr 1, 2000", "Apr 10, 1850", "Apr 2, 1990", "Jan 1, 1900"}));
 }
 
+TEST(GenericOrder, TellsLongTextsApartThatBeginAlike) {
+    EXPECT_EQ(sortedTexts(list({"Wolfgang Amadeus Mozart", "Wolfgang Amadeus Bach"})),
+              list({"Wolfgang Amadeus Bach", "Wolfgang Amadeus Mozart"}));
+}
+
 TEST(GenericOrder, TakesNoWordForANumber) {
-    for (const QStringView word : {u"nan", u"inf", u"-inf", u"-", u".", u"1,000", u"0x10", u""})
+    for (const QStringView word :
+         {u"nan", u"inf", u"-inf", u"+inf", u"-", u".", u"1,000", u"0x10", u""})
         EXPECT_TRUE(compareGenerically(word, u"5") == compareTexts(word, u"0"))
             << qPrintable(word.toString());
     EXPECT_TRUE(compareGenerically(u"Inf", u"infant") < 0);

@@ -212,6 +212,14 @@ TEST_F(PersonEdit, AddsAPersonOfTheFirstCategory) {
     EXPECT_EQ(stored("SELECT Gender FROM Data WHERE Name = 'Moss'"), Value(0));
 }
 
+TEST_F(PersonEdit, WritesTheFirstCategoryIntoANewPersonWhereTheListStoodOnItAlready) {
+    open();
+    press("cmdNext");
+    ASSERT_EQ(in<ComboBox>("cbAddCat").ListIndex(), 0);
+    press("cmdAdd");
+    EXPECT_EQ(textOf("txtFields_4"), QString::number(family_));
+}
+
 TEST_F(PersonEdit, HasTheNewPersonAtTheEndUntilItIsOpenedAgain) {
     open();
     press("cmdAdd");
@@ -322,6 +330,7 @@ TEST_F(PersonEdit, StandsOnTheNewLastPersonAfterTheLastIsDeleted) {
     answerDeletion(Answer::Yes);
     EXPECT_EQ(name(), QStringLiteral("Smith"));
     EXPECT_EQ(status(), QStringLiteral("Record: 2"));
+    EXPECT_TRUE(editor().mbListsStale);
 }
 
 TEST_F(PersonEdit, KeepsTheLastPerson) {

@@ -155,6 +155,7 @@ TEST_F(CategoryManager, StandsOnTheNewLastRowAfterTheLastIsDeleted) {
     answerDeletion(2, "Friends", Answer::Yes);
     EXPECT_EQ(name(), QStringLiteral("Family"));
     EXPECT_EQ(status(), QStringLiteral("Record: 1"));
+    EXPECT_TRUE(editor().mbListsStale);
 }
 
 TEST_F(CategoryManager, LeavesEverybodyElseInTheMainListWhenItCloses) {

@@ -104,6 +104,23 @@ TEST_F(ExplorerDrag, BeginsOnceAndEndsWhenTheButtonIsLetGo) {
     EXPECT_EQ(header(), QStringLiteral("Name|Gender|Firstname|Birthdate|Category|NameID"));
 }
 
+TEST_F(ExplorerDrag, KeepsTheColumnThatWasTakenUpUntilTheHeaderIsPressedAgain) {
+    open();
+    dragColumn(3, 1);
+    EXPECT_EQ(form_->drag().DragCol, 3);
+    pressMouse(*grid().viewport(), placeOfCell(0, 0));
+    EXPECT_EQ(form_->drag().DragCol, 3);
+    pressMouse(headerView(), placeInHeader(2));
+    EXPECT_EQ(form_->drag().DragCol, -1);
+}
+
+TEST_F(ExplorerDrag, HearsAPressOfAnyButton) {
+    open();
+    Q_EMIT grid().MouseDown(Qt::RightButton, 300, 60);
+    EXPECT_TRUE(form_->drag().DragOK);
+    EXPECT_EQ(form_->drag().DownX, 300);
+}
+
 TEST_F(ExplorerDrag, MovesNothingWhereTheDropIsOnARow) {
     open();
     takeUp(2);

@@ -100,6 +100,13 @@ TEST_F(Explorer, LooksCategoriesUpInTheHiddenList) {
     EXPECT_EQ(lstCat().ListIndex(), 1);
 }
 
+TEST_F(Explorer, HasTheLookupInTheOrderOfTheStore) {
+    addCategory(QStringLiteral("Aunts"));
+    open();
+    EXPECT_EQ(lookup(), QStringList({QStringLiteral("Family=1"), QStringLiteral("Friends=2"),
+                                     QStringLiteral("Aunts=3")}));
+}
+
 TEST_F(Explorer, KeepsTheNumberOfACategoryThatIsGone) {
     directory_.dropConstraints();
     addCategory(QStringLiteral("Family"));
@@ -143,6 +150,21 @@ TEST_F(Explorer, PutsTheColumnsBackAtARefresh) {
     EXPECT_EQ(header(), QStringLiteral("Name|Firstname|Birthdate|Gender|Category|NameID"));
     EXPECT_EQ(cells().ColWidth(0), 1725);
     EXPECT_EQ(column(0).first(), QStringLiteral("Adler"));
+}
+
+TEST_F(Explorer, PaintsNothingUntilTheCellsAreInTheirPlaces) {
+    open();
+    int changes = 0;
+    const QObject context;
+    QObject::connect(grid().model(), &QAbstractItemModel::modelReset, &context, [&] {
+        EXPECT_FALSE(grid().Redraw());
+        ++changes;
+    });
+    refresh();
+    dragColumn(2, 0);
+    form_->DoSort();
+    EXPECT_GT(changes, 0);
+    EXPECT_TRUE(grid().Redraw());
 }
 
 TEST_F(Explorer, OpensTheCardOfTheRowWhateverColumnIsDoubleClicked) {

@@ -4,6 +4,7 @@
 #include <QCursor>
 #include <QGuiApplication>
 
+#include "controls/date_picker.h"
 #include "controls/twips.h"
 #include "records/deletion_messages.h"
 #include "records/editor_driver.h"
@@ -48,6 +49,15 @@ class EveryEditor : public EditorTest<Editor> {
     QString name() { return this->textOf(Rows<Editor>::kBox); }
     void enterName(const char* name) { this->enter(Rows<Editor>::kBox, QString::fromLatin1(name)); }
 
+    // Adds a row of this name, born at some date if it is a person's.
+    void add(const char* name) {
+        this->press("cmdAdd");
+        enterName(name);
+        for (DatePicker* birthday : this->editor().template findChildren<DatePicker*>())
+            pressKey(*birthday, Qt::Key_Up);
+        this->press("cmdUpdate");
+    }
+
     // The form stands on the row, and says so.
     void expectRow(const char* name, int place) {
         EXPECT_EQ(this->name(), QString::fromLatin1(name));
@@ -70,6 +80,16 @@ TYPED_TEST(EveryEditor, OpensOnTheFirstRowAndBrowses) {
     EXPECT_FALSE(this->editor().mbListsStale);
     this->enterName("typed");
     this->expectFirst();
+}
+
+TYPED_TEST(EveryEditor, BeginsWithNothingChangedHoweverItWasLeft) {
+    this->load();
+    TypeParam form(&this->window());
+    form.mbDataChanged = true;
+    form.mbListsStale = true;
+    form.Show();
+    EXPECT_FALSE(form.mbDataChanged);
+    EXPECT_FALSE(form.mbListsStale);
 }
 
 TYPED_TEST(EveryEditor, UnloadsTheWaitWindowAsItsLastAct) {
@@ -227,6 +247,36 @@ TYPED_TEST(EveryEditor, GoesBackAtCancelToTheRowThatWasCurrentAtTheLastAdd) {
     this->press("cmdEdit");
     this->press("cmdCancel");
     this->expectSecond();
+    this->press("cmdLast");
+    this->press("cmdAdd");
+    this->press("cmdCancel");
+    this->press("cmdFirst");
+    this->press("cmdEdit");
+    this->press("cmdCancel");
+    this->expectLast();
+}
+
+TYPED_TEST(EveryEditor, GoesBackAtCancelToTheRowOfAnAddThatWasUpdated) {
+    this->open();
+    this->press("cmdNext");
+    this->add("Mill");
+    this->press("cmdLast");
+    this->press("cmdEdit");
+    this->press("cmdCancel");
+    this->expectSecond();
+}
+
+TYPED_TEST(EveryEditor, BrowsesAgainAfterAnAddition) {
+    this->open();
+    this->add("Mill");
+    EXPECT_FALSE(this->isEditing());
+    EXPECT_FALSE(this->editor().mbAddNewFlag);
+    EXPECT_FALSE(this->editor().mbEditFlag);
+    EXPECT_TRUE(this->editor().mbListsStale);
+    this->key(Qt::Key_Home);
+    this->expectFirst();
+    this->key(Qt::Key_End);
+    this->expectRow("Mill", 4);
 }
 
 TYPED_TEST(EveryEditor, TakesANewRowOutOfTheSetAtCancel) {

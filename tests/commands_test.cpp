@@ -23,12 +23,15 @@
 #include "records/frmCategory.h"
 #include "records/frmExplore.h"
 #include "records/frmZoom.h"
+#include "shell/default_instance.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
 #include "shell/frmManageFaves.h"
+#include "shell/frmWait.h"
 #include "shell/handover.h"
 #include "shell/main_controls.h"
 #include "store/favourites.h"
+#include "support/event_counter.h"
 #include "support/files.h"
 #include "support/main_window.h"
 #include "support/next_form.h"
@@ -98,7 +101,7 @@ TEST_F(CommandsTest, AskForDetailsInWordsOfTheirOwn) {
 
 TEST_F(CommandsTest, AskForNobodyWhoIsThere) {
     startWith(kAnna);
-    for (const char* command : {"mnuFind", "mnuReport", "mnuViewDetails"})
+    for (const char* command : {"mnuFind", "mnuReport"})
         trigger(command);
     EXPECT_TRUE(host_.messages().empty());
 }
@@ -134,6 +137,20 @@ TEST_F(CommandsTest, OpenTheFormsThatNeedAPersonForWhoeverIsChosen) {
     startWith(kAnna);
     expectForm<frmCompat>("mnuMatchDabatase");
     expectForm<frmQuick>("mnuQuickMatch");
+}
+
+TEST_F(CommandsTest, ShowTheWaitWindowBeforeASlowFormAlone) {
+    startWith(kAnna);
+    const auto waits = [this](const char* command) {
+        const EventCounter unloads(defaultInstance<frmWait>(), &Form::unloaded);
+        onNextForm<Form>([](Form&) {});
+        trigger(command);
+        return unloads.fired();
+    };
+    for (const char* slow :
+         {"mnuViewDetails", "mnuMatchDabatase", "mnuFileAdd", "mnuFileCat", "mnuFileExplore"})
+        EXPECT_EQ(waits(slow), 1) << slow;
+    EXPECT_EQ(waits("mnuQuickMatch"), 0);
 }
 
 TEST_F(CommandsTest, ShowTheHelpFileByItsNameAlone) {

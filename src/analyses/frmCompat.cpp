@@ -24,6 +24,7 @@ namespace {
 // The items of the bar.
 constexpr int kTabs = 1;
 constexpr int kSinglePerson = 1;
+constexpr int kOrderedMatch = 2;
 
 constexpr int kEverybody = 0;  // the filter's first entry
 
@@ -164,6 +165,8 @@ const Recordset& frmCompat::goTo(Long nameId) {
 
 // A change of the tab always goes back to "*".
 void frmCompat::bbCompat_Click(int, int item) {
+    if (item != kSinglePerson && item != kOrderedMatch)
+        return;
     const bool isSingle = item == kSinglePerson;
     ui_->Label1->setText(isSingle ? QStringLiteral("Apply filter:")
                                   : QStringLiteral("Select category:"));

@@ -13,7 +13,10 @@
 OrderedMatchPage::OrderedMatchPage(QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::OrderedMatchPage>()) {
     ui_->setupUi(this);
-    ui_->grdTop10->change(clearMatches);
+    ui_->grdTop10->change([](GridCells& cells) {
+        cells.setCols(kLastNumberColumn + 1);
+        clearMatches(cells);
+    });
     auto* optSort = new QButtonGroup(this);
     int index = 0;
     for (QRadioButton* option : {ui_->optSort_0, ui_->optSort_1, ui_->optSort_2, ui_->optSort_3})

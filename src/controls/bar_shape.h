@@ -20,6 +20,7 @@ class BarShape final : public QWidget {
     double Width() const { return width_; }
     void setWidth(double width);
 
+    Long Colour() const { return colour_; }
     void setColour(Long colour);  // 0xBBGGRR; 0 for none
 
   protected:

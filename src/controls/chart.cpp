@@ -3,6 +3,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTextDocument>
 #include <QToolTip>
 #include <utility>
 
@@ -99,6 +100,11 @@ void Chart::setSeriesPattern(int series, PenPattern pattern) {
 void Chart::setTitle(const QString& title) {
     content_.title = title;
     update();
+}
+
+void Chart::setToolTipText(const QString& text) {
+    toolTipText_ = text;
+    setToolTip(Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text);
 }
 
 void Chart::setMarkedRow(int row) {

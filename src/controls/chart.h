@@ -59,8 +59,9 @@ class Chart final : public QWidget {
     void setMousePointer(MousePointerShape shape);
 
     // The tip follows the mouse, and its text may change while it is shown.
-    QString ToolTipText() const { return toolTip(); }
-    void setToolTipText(const QString& text) { setToolTip(text); }
+    // It is shown as it stands, blanks and what looks like markup included.
+    QString ToolTipText() const { return toolTipText_; }
+    void setToolTipText(const QString& text);
 
   Q_SIGNALS:
     // The mouse has moved over the chart to this place, in twips from its top left corner.
@@ -76,5 +77,6 @@ class Chart final : public QWidget {
     void fillSize();
 
     ChartContent content_;
+    QString toolTipText_;
     std::optional<QMarginsF> plotMargins_;  // none: the size is fixed
 };

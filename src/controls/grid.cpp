@@ -17,6 +17,15 @@ namespace {
 constexpr int kRoomAroundText = 4;  // pixels, above and below each
 constexpr int kMarkWidth = 3;
 
+// Colours the text of a cell, on the cell's own ground and on that of a selection.
+void colourText(QPalette& palette, Long colour) {
+    QPalette selected = palette;
+    selected.setColor(QPalette::Base, palette.color(QPalette::Highlight));
+    selected.setColor(QPalette::Text, palette.color(QPalette::HighlightedText));
+    palette.setColor(QPalette::HighlightedText, textColour(colour, selected));
+    palette.setColor(QPalette::Text, textColour(colour, palette));
+}
+
 // Gives cells the colours that they were given.
 class CellDelegate final : public QStyledItemDelegate {
   public:
@@ -30,7 +39,7 @@ class CellDelegate final : public QStyledItemDelegate {
         if (look.backColor != 0)
             option->backgroundBrush = cellBackground(look.backColor, option->palette);
         if (look.foreColor != 0)
-            option->palette.setColor(QPalette::Text, textColour(look.foreColor, option->palette));
+            colourText(option->palette, look.foreColor);
     }
 
   private:

@@ -36,6 +36,8 @@ QColor textColour(Long colour, const QPalette& palette) {
     if (colour == 0)
         return ink;
     QColor shade = colourOf(colour);
+    if (base.lightness() > ink.lightness())
+        return shade;
     for (int step = 1; step <= kShades && contrast(shade, base) < kLeastContrast; ++step)
         shade = mixed(colourOf(colour), ink, static_cast<double>(step) / kShades);
     return shade;

@@ -8,6 +8,6 @@
 class QPalette;
 
 // A text's colour, from 0xBBGGRR, on the palette's base. Black is the palette's own text colour.
-// Any other is that very colour where it can be read there, and else the nearest shade of it,
-// lighter or darker, that can.
+// Any other is that very colour where the base is lighter than the text colour; on a dark base it
+// is the nearest shade, mixed with the text colour, that can be read.
 QColor textColour(Long colour, const QPalette& palette);

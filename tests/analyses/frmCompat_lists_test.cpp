@@ -222,6 +222,16 @@ TEST_F(Others, WhoAreFavouritesAreComparedFromWhateverCategory) {
     expectMatchWith(kZed, kZedBorn);
 }
 
+TEST_F(Others, WhoAreFavouritesAreTheEntriesWithoutAKeyAlone) {
+    writeFavourite({3, kZed});
+    open();
+    faves().Add(QStringLiteral("key"), kZed);
+    filter().setText(QStringLiteral("Family"));
+    clickFavourite(faves().Count());
+    EXPECT_EQ(filter().Text(), QStringLiteral("Family"));
+    EXPECT_EQ(list().ListIndex(), -1);
+}
+
 TEST_F(Others, WithoutAFirstNameAreFavouritesByTheNameAlone) {
     makeFile(fileOf(kZed), "3,\"Zed, \"\r\n");
     open();

@@ -68,6 +68,28 @@ TEST_F(Ranking, TakesTheCategoryOfTheFilter) {
     EXPECT_EQ(names(), QStringList({QString()}));
 }
 
+TEST_F(Ranking, ReadsEverybodyOnceAndTheOthersAtEverySearch) {
+    openOnRanking();
+    addPerson({.name = QStringLiteral("Moss"), .catId = friends_});
+    search();
+    EXPECT_FALSE(names().contains(QStringLiteral("Moss")));
+    filter().setText(QStringLiteral("Friends"));
+    search();
+    EXPECT_TRUE(names().contains(QStringLiteral("Moss")));
+}
+
+TEST_F(Ranking, WorksForAPersonWhoIsAlone) {
+    runSql(directory_.people(), QStringLiteral("DELETE FROM Data WHERE Name <> 'Smith'"));
+    loadAndChoose(kAnna);
+    expectReport(QStringLiteral("Invalid property value"));
+    openForChosen();
+    clickTab(2);
+    of<QRadioButton>("optSort_3").click();
+    search();
+    EXPECT_EQ(names(), QStringList({QString()}));
+    EXPECT_EQ(grid().cells().TextMatrix(0, 4), QStringLiteral("Intellectual"));
+}
+
 TEST_F(Ranking, ReportsABirthDateThatIsNullAndStaysFrozen) {
     directory_.dropConstraints();
     addCategory(QStringLiteral("Family"));

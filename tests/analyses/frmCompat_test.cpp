@@ -66,6 +66,9 @@ TEST_F(Comparison, CallsItsControlsByTheirTexts) {
     EXPECT_EQ(of<QWidget>("bbCompat").accessibleName(), QStringLiteral("Compare"));
     EXPECT_EQ(of<QAbstractButton>("bbCompat_1").text(), QStringLiteral("Single Person"));
     EXPECT_EQ(of<QAbstractButton>("bbCompat_2").text(), QStringLiteral("Ordered Match"));
+    for (const char* button : {"bbCompat_1", "bbCompat_2", "cmdSearch"})
+        EXPECT_FALSE(of<QAbstractButton>(button).icon().isNull()) << button;
+    EXPECT_FALSE(child<QAction>(*form_, QStringLiteral("tbCompat_Faves")).icon().isNull());
 }
 
 TEST_F(Comparison, GivesItsLabelsTheColoursOfTheCycles) {
@@ -251,6 +254,7 @@ TEST_F(Comparison, SkipsTheRestOfItsLoadForAPersonWhoIsAlone) {
     EXPECT_EQ(listed(), QStringList());
     EXPECT_EQ(filter().ListCount(), 3);
     EXPECT_EQ(favourites(), QStringList());
+    EXPECT_FALSE(of<QWidget>("cmdSearch").isVisible());
     EXPECT_TRUE(isWaiting());
     unloadWaitWindow();
 }
@@ -264,6 +268,7 @@ TEST_F(Comparison, ReportsAMainPersonWhoIsGone) {
     openForChosen();
     EXPECT_EQ(listed(), QStringList());
     EXPECT_EQ(form_->windowTitle(), QString());
+    EXPECT_FALSE(of<QWidget>("cmdSearch").isVisible());
 }
 
 TEST_F(Comparison, GoesAtItsButtonAndReadsEverybodyAnewWhenItIsOpenedAgain) {

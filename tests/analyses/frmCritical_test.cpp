@@ -303,6 +303,7 @@ TEST_F(CriticalViewer, HangsItsBarsOnTheBaseLineOfTheWindow) {
 TEST_F(CriticalViewer, HasALineThroughTheBaseOfItsBars) {
     open();
     EXPECT_EQ(of<BarShape>("lineBars").Left(), 4867);
+    EXPECT_EQ(of<BarShape>("lineBars").Width(), 15);
     const QRect line = of<QWidget>("lineBars").geometry();
     EXPECT_LE(line.top(), of<QWidget>("barEmot").geometry().top());
     EXPECT_GE(line.bottom(), of<QWidget>("barAverage").geometry().bottom());
@@ -319,6 +320,10 @@ TEST_F(CriticalViewer, IsInOneColourForEachCycle) {
         for (const char* name : names)
             EXPECT_EQ(of<ColouredLabel>(name).ForeColor(), colour) << name;
     }
+    EXPECT_EQ(of<BarShape>("barEmot").Colour(), 0xFF0000);
+    EXPECT_EQ(of<BarShape>("barPhys").Colour(), 0x0000FF);
+    EXPECT_EQ(of<BarShape>("barIntel").Colour(), 0x008000);
+    EXPECT_EQ(of<BarShape>("barAverage").Colour(), 0x400040);
 }
 
 TEST_F(CriticalViewer, ListsTheDaysOfTheMonthFromItsFirstOn) {
@@ -561,10 +566,15 @@ TEST_F(CriticalViewer, EndsTheProgramForADateOfBirthThatIsNull) {
     expectTheEnd(QStringLiteral("Run-time error '94':\n\nInvalid use of Null"));
 }
 
-TEST_F(CriticalViewer, EndsTheWaitWhenItIsLoaded) {
+TEST_F(CriticalViewer, EndsTheWaitAsTheLastActOfItsLoad) {
     choose(kAnna, kPicked);
     showWaitWindow();
+    bool wasFilled = false;
+    const QObject context;
+    QObject::connect(Form::forms().back(), &Form::unloaded, &context,
+                     [&] { wasFilled = !of<RichTextBox>("rtbCritical").Text().isEmpty(); });
     load();
+    EXPECT_TRUE(wasFilled);
     EXPECT_EQ(Form::forms(), (std::vector<Form*>{&window(), form_.get()}));
 }
 

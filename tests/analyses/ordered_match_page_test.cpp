@@ -169,12 +169,28 @@ TEST_F(MatchPage, SaysThatNobodyIsThereAndStaysFrozen) {
     search();
     expectFrozenAfter(message);
     EXPECT_EQ(column(1), QStringList({QStringLiteral("  Average"), QString()}));
+}
+
+TEST_F(MatchPage, SaysWhoAreMissingAndWhere) {
     deleteEverybody();
-    choose("optAll");
-    host_.expectMessage(QStringLiteral("There are no records in the database."));
+    for (const auto& [option, records] : std::initializer_list<std::pair<const char*, const char*>>{
+             {"optAll", "records"}, {"optMale", "male records"}, {"optFemale", "female records"}}) {
+        choose(option);
+        const QString missing =
+            QStringLiteral("There are no %1 in ").arg(QString::fromLatin1(records));
+        host_.expectMessage(missing + QStringLiteral("the database."));
+        search();
+        host_.expectMessage(missing + QStringLiteral("this category."));
+        search(QStringLiteral("Friends"));
+        EXPECT_EQ(column(1), QStringList({QStringLiteral("  Average"), QString()}));
+    }
+}
+
+TEST_F(MatchPage, TakesMalesForAFemalePersonToo) {
+    runSql(directory_.people(), QStringLiteral("UPDATE Data SET Gender = -1 WHERE NameID = 1"));
+    choose("optMale");
     search();
-    host_.expectMessage(QStringLiteral("There are no records in this category."));
-    search(QStringLiteral("Friends"));
+    EXPECT_EQ(names().size(), 3);
 }
 
 TEST_F(MatchPage, IsPaintedAgainAfterTheNextSearchThatSucceeds) {
@@ -240,6 +256,13 @@ TEST_F(MatchPage, KeepsTheColourOfEachNumberThroughASort) {
         for (int column = 1; column < cells.Cols(); ++column)
             EXPECT_EQ(cells.look(row, column).foreColor, SetCol(cells.TextMatrix(row, column)));
     }
+}
+
+TEST_F(MatchPage, LeavesItsColumnsAloneWhenItSortsAnew) {
+    search();
+    grid().change([](GridCells& cells) { cells.setColWidth(1, 500); });
+    choose("optSort_1");
+    EXPECT_EQ(grid().cells().ColWidth(1), 500);
 }
 
 TEST_F(MatchPage, GoesBackToTheAverageWithEverySearch) {

@@ -36,6 +36,8 @@ STEP_AIM = {people: 2 for people in PEOPLE}
 UPDATE_AIM = {people: 50 for people in PEOPLE}
 EXPLORED_AIM = {100_000: 250}
 SORTED_AIM = {100_000: 100}
+RANKED_AIM = {100_000: 200}
+RANKED_ANEW_AIM = {100_000: 50}
 
 # A routine may grow by this much more than n log n from 1,000 people to 100,000: the processor's
 # caches hold the former and not the latter.
@@ -54,6 +56,8 @@ ROUTINES = [
     ('name clicked to chart painted', 'clickName', CLICKED_AIM),
     ('day picked to birthdays painted', 'pickBirthday', BIRTHDAY_AIM),
     ('other clicked to match painted', 'clickOther', COMPARED_AIM),
+    ('everybody ranked and painted', 'searchMatches', RANKED_AIM),
+    ('the ranking sorted anew to painted', 'sortMatchesAnew', RANKED_ANEW_AIM),
     ('person\'s card opened to painted', 'openCard', CARD_AIM),
     ('person manager opened to painted', 'openManager', {}),
     ('stepped to the next person', 'stepPerson', STEP_AIM),

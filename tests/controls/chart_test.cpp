@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QTextDocument>
+
 #include "runtime/event.h"
 #include "support/errors.h"
 #include "support/recording_host.h"
@@ -160,4 +162,16 @@ TEST_F(ChartTest, LeavesAPictureAsItIsWhenItChanges) {
     chart_.setChartData({{QStringLiteral("one")}, {{99}}});
     EXPECT_EQ(before.toImage(), then);
     EXPECT_NE(chart_.picture(2).toImage(), then);
+}
+
+TEST(ChartToolTip, IsShownAsItStands) {
+    Chart chart;
+    chart.setToolTipText(QStringLiteral("Solid: A     Dotted: B"));
+    EXPECT_EQ(chart.toolTip(), QStringLiteral("Solid: A     Dotted: B"));
+    const QString withMarkup = QStringLiteral("Solid: <b>A</b>     Dotted: B");
+    chart.setToolTipText(withMarkup);
+    EXPECT_EQ(chart.ToolTipText(), withMarkup);
+    QTextDocument shown;
+    shown.setHtml(chart.toolTip());
+    EXPECT_EQ(shown.toPlainText(), withMarkup);
 }

@@ -367,7 +367,13 @@ TEST_F(GridTest, PaintsTheTextsOfItsCellsInTheirColours) {
         cells.setCol(1);
         cells.setCellForeColor(0x0000FF);
         cells.setRow(1);
+        cells.setTextMatrix(1, 1, QString(9, u'M'));
+        cells.setCellForeColor(0x0000FF);
     });
+    QPalette palette;
+    palette.setColor(QPalette::Highlight, QColor(200, 230, 255));
+    palette.setColor(QPalette::HighlightedText, Qt::black);
+    grid_.setPalette(palette);
     const auto isRedIn = [this](int row, int column) {
         const QImage cell =
             cellView().grab(grid_.visualRect(grid_.model()->index(row, column))).toImage();
@@ -379,6 +385,7 @@ TEST_F(GridTest, PaintsTheTextsOfItsCellsInTheirColours) {
         return false;
     };
     EXPECT_TRUE(isRedIn(1, 1));
+    EXPECT_TRUE(isRedIn(0, 1));  // in the row that is selected
     EXPECT_FALSE(isRedIn(1, 0));
 }
 

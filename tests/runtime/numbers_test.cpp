@@ -92,3 +92,10 @@ TEST(PercentText, NeverShowsANoughtBelowZero) {
     for (const double percent : {-0.5, -0.2667120284627676, -2.4493e-14, -0.0, 0.0, 1.2246e-14})
         EXPECT_EQ(percentText(percent), QStringLiteral("0%")) << percent;
 }
+
+TEST(RoundToInteger, RoundsHalvesOfPercentagesToTheEvenNumber) {
+    EXPECT_EQ(RoundToInteger(89.5), 90);
+    EXPECT_EQ(RoundToInteger(90.5), 90);
+    EXPECT_EQ(RoundToInteger(49.5), 50);
+    EXPECT_EQ(RoundToInteger(50.5), 50);
+}

@@ -28,6 +28,8 @@ constexpr int kOrderedMatch = 2;
 
 constexpr int kEverybody = 0;  // the filter's first entry
 
+constexpr int kCycles = 3;
+
 // 0xBBGGRR
 constexpr Long kEmotionalColour = 0x800000;
 constexpr Long kPhysicalColour = 0x0000FF;
@@ -89,8 +91,8 @@ void frmCompat::setUpCharts() {
     Chart& lines = *ui_->chtCompatLine;
     lines.setPlotMargins(kLineMargins);
     lines.setLegendFont(kChartFont, kChartFontPoints);
-    for (int cycle = 0; cycle < 3; ++cycle) {
-        const int series = 4 + cycle;
+    for (int cycle = 0; cycle < kCycles; ++cycle) {
+        const int series = kCycles + cycle + 1;
         lines.setSeriesColour(series, static_cast<CycleColour>(cycle));
         lines.setSeriesPattern(series, PenPattern::Dotted);
     }

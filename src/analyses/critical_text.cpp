@@ -23,15 +23,13 @@ std::vector<Paragraph> paragraphs() {
              "Reactions are remarkably slower. Accidents are more likely to happen, due to too "
              "much self-confidence. You are more likely to fall ill, varying from a simple cold or "
              "measles to acute appendicitis or a heart attack. Avoid routine surgery. Instead, "
-             "look "
-             "for a day with high and rising cycles. A natural birth usually occurs on a physical "
-             "critical day.")},
+             "look for a day with high and rising cycles. A natural birth usually occurs on a "
+             "physical critical day.")},
         {QStringLiteral("Emotional critical day"), kBlue,
          QStringLiteral(
              "On this day people tend to be very emotional. Emotions are intense and people tend "
-             "to "
-             "be nervous. In about 50% of the natural births, contractions start on an emotional "
-             "critical day, especially if the mother has a nervous predisposition.")},
+             "to be nervous. In about 50% of the natural births, contractions start on an "
+             "emotional critical day, especially if the mother has a nervous predisposition.")},
         {QStringLiteral("Intellectual critical day"), kGreen,
          QStringLiteral(
              "A day with often slow and careless intellectual reactions. Try to avoid taking "

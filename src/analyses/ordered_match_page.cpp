@@ -22,7 +22,7 @@ OrderedMatchPage::OrderedMatchPage(QWidget* parent)
     for (QRadioButton* option : {ui_->optSort_0, ui_->optSort_1, ui_->optSort_2, ui_->optSort_3})
         optSort->addButton(option, index++);
     onEvent(optSort, &QButtonGroup::idClicked, this, &OrderedMatchPage::optSort_Click);
-    connect(ui_->cmdSearch, &PictureButton::Click, this, &OrderedMatchPage::cmdSearch_Click);
+    onEvent(ui_->cmdSearch, &PictureButton::Click, this, &OrderedMatchPage::cmdSearch_Click);
 }
 
 OrderedMatchPage::~OrderedMatchPage() = default;

@@ -12,8 +12,8 @@ namespace Ui {
 class OrderedMatchPage;
 }
 
-// Keeps the result of the last search. From its beginning on, a search freezes the grid, and only
-// its success lets the grid be painted again.
+// Keeps the result of the last search. Once the database is open, a search freezes the grid, and
+// only its success lets the grid be painted again.
 class OrderedMatchPage final : public QWidget {
     Q_OBJECT
 
@@ -30,6 +30,7 @@ class OrderedMatchPage final : public QWidget {
     void search(Recordset& everybody, const MatchPerson& person, const ComboBox& categories);
 
   Q_SIGNALS:
+    // The button was pressed; whoever knows the people answers with a search.
     void cmdSearch_Click();
 
   private:

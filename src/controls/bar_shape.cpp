@@ -41,6 +41,8 @@ void BarShape::paintEvent(QPaintEvent*) {
     const int origin = mapTo(window(), QPoint(0, 0)).x();
     const int from = toPixels(left_) - origin;
     const int to = toPixels(left_ + width_) - origin;
-    const QColor colour = colour_ != 0 ? textColour(colour_, palette()) : lineColour(palette());
+    const QColor colour =
+        colour_ != 0 ? textColour(colour_, palette(), QPalette::Window, QPalette::WindowText)
+                     : lineColour(palette());
     QPainter(this).fillRect(from, 0, to - from, height(), colour);
 }

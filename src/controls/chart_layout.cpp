@@ -186,7 +186,7 @@ ChartRowLabel levelLabel(const ChartContent& content, const TextMeasure& measure
     const QString& text = content.table.rowLabels[row];
     const double width = measure.width(text);
     const double middle =
-        std::clamp(rowCentre(content, row), width / 2, content.size.width() - width / 2);
+        std::max(std::min(rowCentre(content, row), content.size.width() - width / 2), width / 2);
     return {row,
             text,
             {middle, content.plotArea.bottom() + kTickRoom},

@@ -2,6 +2,7 @@
 #include "controls/coloured_label.h"
 
 #include <QEvent>
+#include <QGuiApplication>
 
 #include "controls/text_colours.h"
 
@@ -22,9 +23,12 @@ void ColouredLabel::changeEvent(QEvent* event) {
         followPalette();
 }
 
+// The label's own palette has the colour already; the ink around it is the parent's.
 void ColouredLabel::followPalette() {
+    const QPalette around = parentWidget() ? parentWidget()->palette() : QGuiApplication::palette();
     QPalette coloured;
     if (foreColor_ != 0)
-        coloured.setColor(QPalette::WindowText, textColour(foreColor_, palette()));
+        coloured.setColor(QPalette::WindowText,
+                          textColour(foreColor_, around, QPalette::Window, QPalette::WindowText));
     setPalette(coloured);
 }

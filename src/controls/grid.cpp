@@ -19,10 +19,8 @@ constexpr int kMarkWidth = 3;
 
 // Colours the text of a cell, on the cell's own ground and on that of a selection.
 void colourText(QPalette& palette, Long colour) {
-    QPalette selected = palette;
-    selected.setColor(QPalette::Base, palette.color(QPalette::Highlight));
-    selected.setColor(QPalette::Text, palette.color(QPalette::HighlightedText));
-    palette.setColor(QPalette::HighlightedText, textColour(colour, selected));
+    palette.setColor(QPalette::HighlightedText,
+                     textColour(colour, palette, QPalette::Highlight, QPalette::HighlightedText));
     palette.setColor(QPalette::Text, textColour(colour, palette));
 }
 

@@ -59,6 +59,8 @@ void GridCells::Clear() {
 }
 
 void GridCells::setCols(int columns) {
+    if (columns == Cols())
+        return;
     std::vector<Cell> cells;
     cells.reserve(rows_.size() * static_cast<std::size_t>(columns));
     for (int row = 0; row < Rows(); ++row) {

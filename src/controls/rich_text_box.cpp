@@ -46,7 +46,9 @@ QString RichTextBox::Text() const {
     return text;
 }
 
+// A text takes over the style at the cursor, so nothing may be selected, and the style is plain.
 void RichTextBox::setText(const QString& text) {
+    setTextCursor(QTextCursor(document()));
     setCurrentCharFormat({});
     setPlainText(text);
 }

@@ -1,7 +1,6 @@
 // The legible shades of text_colours.h.
 #include "controls/text_colours.h"
 
-#include <QPalette>
 #include <algorithm>
 #include <cmath>
 
@@ -30,15 +29,16 @@ double contrast(const QColor& one, const QColor& other) {
 
 }  // namespace
 
-QColor textColour(Long colour, const QPalette& palette) {
-    const QColor base = palette.color(QPalette::Base);
-    const QColor ink = palette.color(QPalette::Text);
+QColor textColour(Long colour, const QPalette& palette, QPalette::ColorRole ground,
+                  QPalette::ColorRole ink) {
+    const QColor base = palette.color(ground);
+    const QColor own = palette.color(ink);
     if (colour == 0)
-        return ink;
+        return own;
     QColor shade = colourOf(colour);
-    if (base.lightness() > ink.lightness())
+    if (base.lightness() > own.lightness())
         return shade;
     for (int step = 1; step <= kShades && contrast(shade, base) < kLeastContrast; ++step)
-        shade = mixed(colourOf(colour), ink, static_cast<double>(step) / kShades);
+        shade = mixed(colourOf(colour), own, static_cast<double>(step) / kShades);
     return shade;
 }

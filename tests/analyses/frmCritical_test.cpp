@@ -281,7 +281,8 @@ TEST_F(CriticalViewer, DrawsItsBarsOfTheUnroundedValues) {
 TEST_F(CriticalViewer, HangsItsBarsOnTheBaseLineOfTheWindow) {
     open();
     auto& bar = of<BarShape>("barEmot");
-    const QColor colour = textColour(0xFF0000, bar.palette());
+    const QColor colour =
+        textColour(0xFF0000, bar.palette(), QPalette::Window, QPalette::WindowText);
     const int row = bar.mapTo(form_.get(), bar.rect().center()).y();
     const int line = toPixels(4867);
     const int length = toPixels(1747);

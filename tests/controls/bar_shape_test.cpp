@@ -23,7 +23,8 @@ class BarShapeTest : public testing::Test {
 
     // The first pixel of the window that has the bar's colour, and the one behind the last.
     std::pair<int, int> painted() {
-        const QColor colour = textColour(kRed, window_.palette());
+        const QColor colour =
+            textColour(kRed, window_.palette(), QPalette::Window, QPalette::WindowText);
         const QImage image = window_.grab().toImage();
         int from = -1;
         int to = -1;

@@ -13,6 +13,7 @@ QColor paintedColour(const ColouredLabel& label) {
     return label.palette().color(QPalette::WindowText);
 }
 
+// Its boxes are darker than its windows.
 QPalette darkPalette() {
     QPalette palette(QColor(46, 46, 50));
     palette.setColor(QPalette::Base, Qt::black);
@@ -43,7 +44,9 @@ TEST(ColouredLabel, GoesWithThePaletteOfItsWindow) {
     auto* label = new ColouredLabel(&window);
     label->setForeColor(kNavy);
     window.setPalette(darkPalette());
-    EXPECT_EQ(paintedColour(*label), textColour(kNavy, darkPalette()));
+    EXPECT_EQ(paintedColour(*label),
+              textColour(kNavy, darkPalette(), QPalette::Window, QPalette::WindowText));
+    EXPECT_NE(paintedColour(*label), textColour(kNavy, darkPalette()));
     EXPECT_NE(paintedColour(*label), QColor(0, 0, 0x80));
 }
 

@@ -4,27 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <QPalette>
-#include <cmath>
+
+#include "support/contrast.h"
 
 namespace {
-
-constexpr double kLeastContrast = 4.5;
-
-double linear(float part) {
-    return part <= 0.04045F ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-}
-
-double luminance(const QColor& colour) {
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
-}
-
-// As the guidelines for accessible web content define it: 1 to 21.
-double contrast(const QColor& a, const QColor& b) {
-    const double lighter = std::max(luminance(a), luminance(b));
-    const double darker = std::min(luminance(a), luminance(b));
-    return (lighter + 0.05) / (darker + 0.05);
-}
 
 QColor colourOn(const QColor& base, int cycle) {
     QPalette palette;

@@ -6,6 +6,7 @@
 #include <QPalette>
 
 #include "controls/cell_colours.h"
+#include "support/contrast.h"
 
 namespace {
 
@@ -58,4 +59,18 @@ TEST(TextColours, AreLighterWhereTheyAreTooDark) {
 TEST(TextColours, AreThePalettesOwnWhereNoShadeCanBeRead) {
     EXPECT_EQ(textColour(kRed, paletteOf(QColor(200, 0, 0), QColor(210, 10, 0))),
               QColor(210, 10, 0));
+}
+
+TEST(TextColours, CanBeReadOnDark) {
+    const QColor ground(43, 43, 43);
+    for (const Long colour : {kBlue, Long{0x800000}, Long{0x400040}, Long{0x008000}})
+        EXPECT_GE(contrast(onDark(colour), ground), 3) << colour;
+}
+
+TEST(TextColours, GoByTheGroundAndTheInkThatAreNamed) {
+    QPalette palette = paletteOf(Qt::white, kInk);
+    palette.setColor(QPalette::Window, Qt::black);
+    palette.setColor(QPalette::WindowText, kChalk);
+    EXPECT_EQ(textColour(0, palette, QPalette::Window, QPalette::WindowText), kChalk);
+    EXPECT_NE(textColour(kBlue, palette, QPalette::Window, QPalette::WindowText), onLight(kBlue));
 }

@@ -55,11 +55,16 @@ void makeRoomForTitle(QMessageBox& box) {
     grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
 
-// The window that a box waits over or help belongs to: the owner's, or else the one that the user
-// is in.
+// The window that a box waits over or help belongs to: the owner's, or the one below it while it is
+// not shown yet; or else the one that the user is in.
 QWidget* windowOf(QObject* owner) {
     const auto* widget = qobject_cast<QWidget*>(owner);
-    return widget ? widget->window() : QApplication::activeWindow();
+    if (!widget)
+        return QApplication::activeWindow();
+    QWidget* window = widget->window();
+    while (!window->isVisible() && window->parentWidget())
+        window = window->parentWidget()->window();
+    return window;
 }
 
 // How long a window system may take to show a window. One that is slower, or hides the window

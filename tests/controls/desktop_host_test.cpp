@@ -81,6 +81,17 @@ TEST_F(DesktopHostTest, WaitsOverTheWindowOfItsOwner) {
              [&](const QMessageBox& box) { EXPECT_EQ(box.parentWidget(), &window); });
 }
 
+TEST_F(DesktopHostTest, WaitsOverTheWindowBelowAnOwnerThatIsNotShownYet) {
+    QWidget window;
+    window.show();
+    QWidget loading(&window, Qt::Dialog);
+    answered({.text = QStringLiteral("Here."), .owner = &loading}, QMessageBox::Ok,
+             [&](const QMessageBox& box) { EXPECT_EQ(box.parentWidget(), &window); });
+    loading.show();
+    answered({.text = QStringLiteral("Here."), .owner = &loading}, QMessageBox::Ok,
+             [&](const QMessageBox& box) { EXPECT_EQ(box.parentWidget(), &loading); });
+}
+
 TEST_F(DesktopHostTest, YieldsToWaitingEvents) {
     QTimer waiting;
     waiting.setSingleShot(true);

@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr qsizetype kRoom = 32;  // characters, enough for a date in most languages
+
 QString dayText(Date date, qsizetype letters, const QLocale& names) {
     if (letters == 1)
         return numberText(modCycles::Day(date));
@@ -25,10 +27,16 @@ QString yearText(Date date) {
     return numberText(modCycles::Year(date)).rightJustified(4, u'0');
 }
 
+// The letters of patterns are ASCII, for which there is a shorter way to the small form.
+char16_t small(QChar letter) {
+    const char16_t code = letter.unicode();
+    return u'A' <= code && code <= u'Z' ? static_cast<char16_t>(code - u'A' + u'a') : code;
+}
+
 // How many times the letter at `start` stands there in a row, in small or capital form.
-qsizetype runLength(const QString& pattern, qsizetype start) {
+qsizetype runLength(QStringView pattern, qsizetype start) {
     qsizetype end = start;
-    while (end < pattern.size() && pattern[end].toLower() == pattern[start].toLower())
+    while (end < pattern.size() && small(pattern[end]) == small(pattern[start]))
         ++end;
     return end - start;
 }
@@ -37,9 +45,10 @@ qsizetype runLength(const QString& pattern, qsizetype start) {
 
 QString formatDate(Date date, const QString& pattern, const QLocale& names) {
     QString text;
+    text.reserve(kRoom);
     for (qsizetype place = 0; place < pattern.size();) {
         const qsizetype letters = runLength(pattern, place);
-        switch (pattern[place].toLower().unicode()) {
+        switch (small(pattern[place])) {
             case u'd':
                 text += dayText(date, letters, names);
                 break;
@@ -50,7 +59,7 @@ QString formatDate(Date date, const QString& pattern, const QLocale& names) {
                 text += yearText(date);
                 break;
             default:
-                text += pattern.mid(place, letters);
+                text += QStringView(pattern).mid(place, letters);
         }
         place += letters;
     }

@@ -59,6 +59,12 @@ std::vector<double> plainBirthdates(const QString& database) {
     return birthdates;
 }
 
+std::string plainInterpretation(const QString& database) {
+    const SQLite::Database file(database.toStdString());
+    SQLite::Statement row(file, "SELECT interp FROM HLC WHERE Emot = 0 AND Phys = 0 AND Intel = 0");
+    return row.executeStep() ? row.getColumn(0).getText() : "";
+}
+
 PlainWriter::PlainWriter(const QString& database)
     : file_(database.toStdString(), SQLite::OPEN_READWRITE) {
     file_.exec("PRAGMA synchronous = FULL");

@@ -33,6 +33,9 @@ double plainBirthdate(const QString& database, Long nameId);
 // The birth dates of all people, as days since 30 December 1899.
 std::vector<double> plainBirthdates(const QString& database);
 
+// The interpretation of a day on which every cycle is critical.
+std::string plainInterpretation(const QString& database);
+
 // Writes people by their keys, durably.
 class PlainWriter {
   public:

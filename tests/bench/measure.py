@@ -1,6 +1,6 @@
 """Measures what tools/bench has built, and prints one table.
 
-usage: measure.py PROGRAMS SCHEMA
+usage: measure.py PROGRAMS SCHEMA INTERPRETATIONS
 
 Makes a program directory for each number of people, starts Ondara there in turn with an empty
 window, and runs the routines of the main window and of the forms over it. Every figure is a median.
@@ -33,6 +33,8 @@ BIRTHDAY_AIM = {people: 30 for people in PEOPLE}
 COMPARED_AIM = {people: 10 for people in PEOPLE}
 CARD_AIM = {people: 8 for people in PEOPLE}
 STEP_AIM = {people: 2 for people in PEOPLE}
+ANALYSED_AIM = {people: 0.02 for people in PEOPLE}
+CHANGED_AIM = {people: 10 for people in PEOPLE}
 UPDATE_AIM = {people: 50 for people in PEOPLE}
 EXPLORED_AIM = {100_000: 250}
 SORTED_AIM = {100_000: 100}
@@ -59,6 +61,8 @@ ROUTINES = [
     ('everybody ranked and painted', 'searchMatches', RANKED_AIM),
     ('the ranking sorted anew to painted', 'sortMatchesAnew', RANKED_ANEW_AIM),
     ('person\'s card opened to painted', 'openCard', CARD_AIM),
+    ('day analysed', 'analyseDay', ANALYSED_AIM),
+    ('date changed to details painted', 'changeDate', CHANGED_AIM),
     ('person manager opened to painted', 'openManager', {}),
     ('stepped to the next person', 'stepPerson', STEP_AIM),
     ('letter found and painted', 'findLetter', {}),
@@ -108,11 +112,12 @@ class Start:
         return int(re.search(r'^Pss: +(\d+) kB', sizes, re.MULTILINE)[1]) / 1024
 
 
-def lay_out(programs, schema, folder, people):
+def lay_out(programs, schema, interpretations, folder, people):
     """A directory that the programs in it take for Ondara's, with so many people."""
     folder.mkdir()
     for program in ('bench_ondara', 'bench_routines'):
         shutil.copy2(programs / program, folder)
+    shutil.copy2(interpretations, folder)
     subprocess.run([programs / 'bench_people', schema, folder / 'Ondara2.mdb', str(people)],
                    check=True)
 
@@ -191,12 +196,12 @@ def print_growth(routines):
 
 
 def main():
-    programs, schema = (Path(argument).resolve() for argument in sys.argv[1:])
+    programs, schema, interpretations = (Path(argument).resolve() for argument in sys.argv[1:])
     with tempfile.TemporaryDirectory(dir=programs) as root:
         os.environ.setdefault('XDG_RUNTIME_DIR', root)  # Qt asks for one
         folders = {people: Path(root) / str(people) for people in PEOPLE}
         for people, folder in folders.items():
-            lay_out(programs, schema, folder, people)
+            lay_out(programs, schema, interpretations, folder, people)
         starts = measure_starts(programs, folders)
         routines = {people: measure_routines(folder, '-Favourites')
                     for people, folder in folders.items()}

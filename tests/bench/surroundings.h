@@ -1,4 +1,4 @@
-// What the benchmarks run in: the main window over the person database beside the program.
+// What the benchmarks run in: the main window over the databases beside the program.
 #pragma once
 
 #include <QString>
@@ -10,6 +10,10 @@
 
 inline QString database() {
     return App::Path() + QStringLiteral("/Ondara2.mdb");
+}
+
+inline QString interpretationDatabase() {
+    return App::Path() + QStringLiteral("/Interp.mdb");
 }
 
 inline QWidget* mainWindow() {

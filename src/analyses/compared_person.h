@@ -30,6 +30,6 @@ QString comparisonCaption(const ComparedPerson& person);
 // text and with the NameID as item data.
 std::vector<ListEntry> othersThan(const ComparedPerson& person, Recordset& people);
 
-// Whether the favourite of this name is the person's own: it has the person's name or the display
-// text, blanks at the ends aside.
+// Whether the favourite of this name is the person's own: its name is the person's, alone or with a
+// comma and the first name behind it, blanks at the ends aside.
 bool isFavouriteOf(const ComparedPerson& person, const QString& favourite);

@@ -116,6 +116,7 @@ void frmCritical::colourCycles() {
     }
 }
 
+// The choice of the view analyses the day, and then the load does: what goes wrong is told twice.
 void frmCritical::Form_Load() {
     setToolTips();
     openPerson();

@@ -12,8 +12,8 @@ namespace Ui {
 class frmQuick;
 }
 
-// Compares the person who is chosen in the main window with the date that is picked, at each change
-// of it; nothing is shown before the first. Writes nothing.
+// Compares the person who is chosen in the main window with the date that is picked: at each change
+// of it, and when asked to. Nothing is shown before the first comparison. Writes nothing.
 class frmQuick final : public Form {
     Q_OBJECT
 

@@ -1,4 +1,4 @@
-// The colours of the cycles, the one accent in all windows.
+// The colours of the cycles in charts and in the thermometer.
 #pragma once
 
 #include <QColor>

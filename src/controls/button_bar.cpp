@@ -32,7 +32,7 @@ QColor shade(const QPalette& palette, double share) {
 // One item.
 class ButtonBar::Button final : public QAbstractButton {
   public:
-    explicit Button(const Item& item, ButtonBar& bar) : QAbstractButton(&bar), bar_(bar) {
+    Button(const Item& item, ButtonBar& bar) : QAbstractButton(&bar), bar_(bar) {
         setText(item.caption);
         setIcon(item.icon);
         setCheckable(true);
@@ -115,14 +115,14 @@ ButtonBar::Button* ButtonBar::addButton(const Item& item) {
 
 // Tab goes to the chosen item alone, as the arrow keys go to the others.
 void ButtonBar::setChosenItem(int item) {
-    button(item);
+    Button& chosen = button(item);
     chosen_ = item;
     for (Button* each : buttons_) {
-        const bool isChosen = each == &button(item);
+        const bool isChosen = each == &chosen;
         each->setChecked(isChosen);
         each->setFocusPolicy(isChosen ? Qt::StrongFocus : Qt::ClickFocus);
     }
-    setFocusProxy(&button(item));
+    setFocusProxy(&chosen);
 }
 
 bool ButtonBar::isItemEnabled(int item) const {

@@ -1,151 +1,16 @@
-// The critical and peak viewer.
-#include "analyses/frmCritical.h"
+// The critical and peak viewer: its views, and what it tells of the day.
+#include <QAbstractButton>
 
-#include <QFile>
-#include <QLabel>
-
-#include "analyses/critical_text.h"
-#include "analyses/day_analysis.h"
+#include "analyses/viewer_driver.h"
 #include "controls/bar_shape.h"
 #include "controls/button_bar.h"
-#include "controls/coloured_label.h"
-#include "controls/date_picker.h"
-#include "controls/month_view.h"
 #include "controls/picture_button.h"
-#include "controls/rich_text_box.h"
-#include "controls/text_colours.h"
 #include "controls/twips.h"
-#include "runtime/event.h"
-#include "runtime/qt_dates.h"
-#include "shell/frmMain.h"
 #include "shell/frmWait.h"
-#include "support/errors.h"
-#include "support/main_window.h"
 
 using modCycles::DateSerial;
 
 namespace {
-
-const QString kAnna = QStringLiteral("Smith, Anna");
-const Date kAnnasBirth = DateSerial(1972, 10, 20);
-const Date kPicked = DateSerial(2000, 3, 20);
-
-QString trappedMessage(const QString& description) {
-    return description + QStringLiteral(". Please report this error to the author.");
-}
-
-QString noRowMessage() {
-    return trappedMessage(
-        QStringLiteral("Either BOF or EOF is True, or the current record has been deleted. "
-                       "Requested operation requires a current record"));
-}
-
-class CriticalViewer : public MainWindowTest {
-  protected:
-    void load() {
-        runEvent([this] { form_->Show(); });
-    }
-
-    // Opens it for Anna Smith or another on the date that is picked in the main window.
-    void open(const QString& displayText = kAnna, Date selected = kPicked) {
-        choose(displayText, selected);
-        load();
-    }
-
-    void choose(const QString& displayText, Date selected) {
-        loadAndChoose(displayText);
-        control<MonthView>("dtpSelDate").setValue(selected);
-        form_ = std::make_unique<frmCritical>(&window());
-    }
-
-    // Opens it for somebody who is born on this day, on a date.
-    void openBorn(Date birthdate, Date selected) {
-        addPerson({.name = QStringLiteral("Newcomer"), .birthdate = Value(birthdate)});
-        open(QStringLiteral("Newcomer"), selected);
-    }
-
-    template <class Control>
-    Control& of(const QString& name) {
-        return child<Control>(*form_, name);
-    }
-    template <class Control>
-    Control& of(const char* name) {
-        return of<Control>(QString::fromLatin1(name));
-    }
-
-    QString textOf(const char* label) { return of<QLabel>(label).text(); }
-    DatePicker& picker() { return of<DatePicker>("dtpCritical"); }
-    QString interpretation() { return of<RichTextBox>("rtbInterp").Text(); }
-
-    void chooseView(int item) { click(of<QWidget>(QStringLiteral("bbDetails_%1").arg(item))); }
-
-    // Changes the date as the user does, who goes past the control's own operations.
-    void pick(Date date) { static_cast<QDateEdit&>(picker()).setDate(toQDate(date)); }
-
-    bool isShown(const QString& name) { return of<QWidget>(name).isVisibleTo(form_.get()); }
-
-    // The members of a control array, in order.
-    template <class Control>
-    std::vector<Control*> membersOf(const char* array) {
-        std::vector<Control*> members;
-        for (int i = 0;; ++i) {
-            auto* member =
-                form_->findChild<Control*>(QLatin1String(array) + u'_' + QString::number(i));
-            if (!member)
-                return members;
-            members.push_back(member);
-        }
-    }
-
-    QStringList textsOf(const char* array) {
-        QStringList texts;
-        for (const QLabel* label : membersOf<QLabel>(array))
-            texts += label->text();
-        return texts;
-    }
-
-    // Which members of an array are visible, by a mark for each.
-    QString shownOf(const char* array) {
-        QString marks;
-        for (const QWidget* member : membersOf<QWidget>(array))
-            marks += member->isVisibleTo(form_.get()) ? u'x' : u'.';
-        return marks;
-    }
-
-    QString boldOf(const char* array) {
-        QString marks;
-        for (const ColouredLabel* label : membersOf<ColouredLabel>(array))
-            marks += label->FontBold() ? u'x' : u'.';
-        return marks;
-    }
-
-    // What the store says for the levels of a day.
-    QString storedText(const modCycles::DayLevels& levels) {
-        return valueOf(directory_.interpretation(),
-                       QStringLiteral("SELECT interp FROM HLC WHERE Emot = %1 AND Phys = %2 AND "
-                                      "Intel = %3")
-                           .arg(levels.emotional)
-                           .arg(levels.physical)
-                           .arg(levels.intellectual))
-            .toText();
-    }
-
-    QString storedText(Date date) { return storedText(readDay(kAnnasBirth, date).levels); }
-
-    QString missingFileMessage() {
-        return trappedMessage(QStringLiteral("File not found: there is no file of this name, %1")
-                                  .arg(QDir::toNativeSeparators(directory_.interpretation())));
-    }
-
-    void expectTheEnd(const QString& message) {
-        host_.expectMessage(message);
-        load();
-        EXPECT_EQ(host_.exitCode(), 1);
-        host_.forgetExit();
-    }
-
-    std::unique_ptr<frmCritical> form_;
-};
 
 constexpr const char* kTodayView[] = {
     "lblDateToday", "lblAge",   "Label6",     "lblToday_0", "lblToday_1", "lblToday_2",
@@ -156,8 +21,6 @@ constexpr const char* kCriticalView[] = {"Label4",   "Label5", "Label3",     "La
                                          "Line4",    "Shape1", "rtbCritical"};
 constexpr const char* kSlots[] = {"lblEmot",     "lblPhys",     "lblIntel",
                                   "lblEmotPeak", "lblPhysPeak", "lblIntelPeak"};
-constexpr const char* kSmiles[] = {"imgSmileE", "imgSmileP", "imgSmileI"};
-constexpr const char* kSads[] = {"imgSadE", "imgSadP", "imgSadI"};
 
 TEST_F(CriticalViewer, IsAboutThePersonWhoIsChosen) {
     open();
@@ -327,137 +190,6 @@ TEST_F(CriticalViewer, IsInOneColourForEachCycle) {
     EXPECT_EQ(of<BarShape>("barAverage").Colour(), 0x400040);
 }
 
-TEST_F(CriticalViewer, ListsTheDaysOfTheMonthFromItsFirstOn) {
-    openBorn(DateSerial(2000, 1, 1), DateSerial(2000, 1, 20));
-    chooseView(2);
-    EXPECT_EQ(textsOf("lblEmot"),
-              QStringList({QStringLiteral("Sat, 1 January"), QStringLiteral("Sat, 15 January"),
-                           QStringLiteral("Sat, 29 January")}));
-    EXPECT_EQ(textsOf("lblPhys"),
-              QStringList({QStringLiteral("Sat, 1 January"), QStringLiteral("Wed, 12 January"),
-                           QStringLiteral("Mon, 24 January"), QString()}));
-    EXPECT_EQ(textsOf("lblIntel"),
-              QStringList({QStringLiteral("Sat, 1 January"), QStringLiteral("Mon, 17 January")}));
-    EXPECT_EQ(textsOf("lblEmotPeak"), QStringList({QStringLiteral("Sat, 8 Jan"),
-                                                   QStringLiteral("Sat, 22 Jan"), QString()}));
-    EXPECT_EQ(textsOf("lblPhysPeak"),
-              QStringList({QStringLiteral("Fri, 7 Jan"), QStringLiteral("Tue, 18 Jan"),
-                           QStringLiteral("Sun, 30 Jan")}));
-    EXPECT_EQ(textsOf("lblIntelPeak"),
-              QStringList({QStringLiteral("Sun, 9 Jan"), QStringLiteral("Wed, 26 Jan")}));
-}
-
-TEST_F(CriticalViewer, SmilesBesideAPeakAndIsSadBesideALow) {
-    openBorn(DateSerial(2000, 1, 1), DateSerial(2000, 1, 20));
-    chooseView(2);
-    EXPECT_EQ(shownOf("imgSmileE"), QStringLiteral("x.."));
-    EXPECT_EQ(shownOf("imgSadE"), QStringLiteral(".x."));
-    EXPECT_EQ(shownOf("imgSmileP"), QStringLiteral("x.x"));
-    EXPECT_EQ(shownOf("imgSadP"), QStringLiteral(".x."));
-    EXPECT_EQ(shownOf("imgSmileI"), QStringLiteral("x."));
-    EXPECT_EQ(shownOf("imgSadI"), QStringLiteral(".x"));
-}
-
-TEST_F(CriticalViewer, HasItsFacesBesideThePeaksOfTheSameIndex) {
-    open();
-    chooseView(2);
-    int found = 0;
-    for (std::size_t i = 0; i < 3; ++i) {
-        const QRect label = membersOf<QLabel>("lblPhysPeak")[i]->geometry();
-        for (const char* array : {"imgSmileP", "imgSadP"}) {
-            const QLabel& picture = *membersOf<QLabel>(array)[i];
-            if (!picture.isVisible())
-                continue;
-            ++found;
-            const QPoint middle = picture.geometry().center();
-            EXPECT_GT(middle.x(), label.right()) << array;
-            EXPECT_LE(label.top(), middle.y()) << array;
-            EXPECT_GE(label.bottom(), middle.y()) << array;
-        }
-    }
-    EXPECT_GT(found, 0);
-}
-
-TEST_F(CriticalViewer, HasADifferentFaceForAPeakAndForALow) {
-    open();
-    EXPECT_NE(of<QLabel>("imgSmileE_0").pixmap().toImage(),
-              of<QLabel>("imgSadE_0").pixmap().toImage());
-}
-
-TEST_F(CriticalViewer, SpeaksItsMindInTheTooltipsOfThePictures) {
-    open();
-    for (const char* array : kSmiles)
-        for (const QLabel* picture : membersOf<QLabel>(array))
-            EXPECT_EQ(picture->toolTip(), QStringLiteral("Happy days are here again!"));
-    for (const char* array : kSads)
-        for (const QLabel* picture : membersOf<QLabel>(array))
-            EXPECT_EQ(picture->toolTip(), QStringLiteral("Oh bugger..."));
-}
-
-TEST_F(CriticalViewer, CoversThePicturesByTheInterpretationInTheViewOfTheDay) {
-    openBorn(DateSerial(2000, 1, 1), DateSerial(2000, 1, 20));
-    auto& cover = of<RichTextBox>("rtbInterp");
-    int found = 0;
-    for (const char* array :
-         {"imgSmileE", "imgSadE", "imgSmileP", "imgSadP", "imgSmileI", "imgSadI"})
-        for (const QLabel* picture : membersOf<QLabel>(array)) {
-            if (!picture->isVisible())
-                continue;
-            ++found;
-            EXPECT_TRUE(cover.geometry().contains(picture->geometry())) << array;
-            const QPoint middle = picture->mapTo(form_.get(), picture->rect().center());
-            EXPECT_EQ(form_->childAt(middle), cover.viewport()) << array;
-        }
-    EXPECT_EQ(found, 7);
-}
-
-TEST_F(CriticalViewer, ClearsWhatAnotherMonthHasLeft) {
-    openBorn(DateSerial(2000, 1, 1), DateSerial(2000, 1, 20));
-    EXPECT_EQ(textOf("lblEmot_2"), QStringLiteral("Sat, 29 January"));
-    EXPECT_EQ(shownOf("imgSmileP"), QStringLiteral("x.x"));
-    pick(DateSerial(2000, 2, 20));
-    EXPECT_EQ(textOf("lblEmot_2"), QString());
-    EXPECT_EQ(shownOf("imgSmileP"), QStringLiteral(".x."));
-}
-
-TEST_F(CriticalViewer, IsBoldOnTheRealCurrentDateFromWhicheverDayItsMonthIsReached) {
-    const Date today = DateSerial(2000, 3, 14);
-    openBorn(today + -28, DateSerial(2000, 3, 31));
-    EXPECT_EQ(textOf("lblEmot_0"), QStringLiteral("Tue, 14 March"));
-    EXPECT_EQ(boldOf("lblEmot"), QStringLiteral("x.."));
-    pick(DateSerial(2000, 4, 14));
-    EXPECT_EQ(boldOf("lblEmot"), QStringLiteral("..."));
-    pick(DateSerial(2000, 3, 1));
-    EXPECT_EQ(boldOf("lblEmot"), QStringLiteral("x.."));
-}
-
-TEST_F(CriticalViewer, IsBoldOnAPeakThatIsTodayToo) {
-    openBorn(DateSerial(2000, 3, 14) + -63, kPicked);
-    EXPECT_EQ(textOf("lblEmotPeak_0"), QStringLiteral("Tue, 14 Mar"));
-    EXPECT_EQ(boldOf("lblEmotPeak"), QStringLiteral("x.."));
-}
-
-TEST_F(CriticalViewer, IsNotBoldOnTheDayOfThePicker) {
-    openBorn(kPicked + -28, kPicked);
-    EXPECT_EQ(textOf("lblEmot_1"), QStringLiteral("Mon, 20 March"));
-    EXPECT_EQ(boldOf("lblEmot"), QStringLiteral("..."));
-}
-
-TEST_F(CriticalViewer, KeepsTheDayWhenTheMonthIsChanged) {
-    open();
-    chooseView(2);
-    pressKey(picker(), Qt::Key_Up);
-    EXPECT_EQ(picker().Value(), DateSerial(2000, 4, 20));
-    const DayReading reading = readDay(kAnnasBirth, DateSerial(2000, 4, 20));
-    EXPECT_EQ(textOf("lblAge"), reading.age);
-    EXPECT_EQ(textOf("lblToday_0"), reading.percentTexts[0]);
-    EXPECT_EQ(interpretation(), storedText(DateSerial(2000, 4, 20)));
-    const SpanFinds finds =
-        searchSpan(kAnnasBirth, DateSerial(2000, 4, 1), DateSerial(2000, 3, 14));
-    EXPECT_EQ(textOf("lblEmot_0"), finds.emotional.critical[0].text);
-    EXPECT_EQ(textOf("lblEmotPeak_0"), finds.emotional.peaks[0].text);
-}
-
 TEST_F(CriticalViewer, LetsADayOfTwoDigitsBeTyped) {
     open();
     picker().setSelectedSection(QDateTimeEdit::DaySection);
@@ -478,74 +210,6 @@ TEST_F(CriticalViewer, ShowsTheInterpretationAsItStands) {
     EXPECT_EQ(interpretation(), text);
 }
 
-TEST_F(CriticalViewer, ExplainsCriticalDaysInItsStyles) {
-    open();
-    auto& box = of<RichTextBox>("rtbCritical");
-    EXPECT_EQ(box.Text(), criticalText().text);
-    EXPECT_EQ(box.SelStart(), 0);
-    EXPECT_EQ(box.SelLength(), 0);
-    for (const StyledRange& range : criticalText().ranges)
-        for (const int place : {range.start, range.start + range.length - 1}) {
-            box.setSelStart(place);
-            box.setSelLength(1);
-            if (box.textCursor().selectedText() == QChar::ParagraphSeparator)
-                continue;
-            EXPECT_EQ(box.SelBold(), range.isBold) << place;
-            EXPECT_EQ(box.SelFontSize(), range.points) << place;
-            EXPECT_EQ(box.SelColor(), range.colour) << place;
-        }
-}
-
-TEST_F(CriticalViewer, TellsThatThereAreNoInterpretationsForEachAnalysisOfItsLoad) {
-    QFile::remove(directory_.interpretation());
-    choose(kAnna, kPicked);
-    host_.expectMessage(missingFileMessage());
-    host_.expectMessage(missingFileMessage());
-    load();
-    for (const Message& message : host_.messages()) {
-        EXPECT_EQ(message.title, QString());
-        EXPECT_EQ(message.icon, MessageIcon::None);
-    }
-    EXPECT_TRUE(form_->isVisible());
-    EXPECT_EQ(textOf("lblAge"), readDay(kAnnasBirth, kPicked).age);
-    EXPECT_NE(textOf("lblEmot_0"), QString());
-    EXPECT_NE(of<BarShape>("barEmot").Width(), 0);
-    EXPECT_EQ(picker().Value(), kPicked);
-    EXPECT_EQ(of<RichTextBox>("rtbCritical").Text(), criticalText().text);
-}
-
-TEST_F(CriticalViewer, AnalysesOnceForAChangeAlthoughItMovesThePickerItself) {
-    open();
-    QFile::remove(directory_.interpretation());
-    host_.expectMessage(missingFileMessage());
-    pick(DateSerial(2000, 5, 31));
-    EXPECT_EQ(host_.messages().size(), 1U);
-    EXPECT_EQ(picker().Value(), DateSerial(2000, 5, 31));
-}
-
-TEST_F(CriticalViewer, KeepsTheLastInterpretationWhereThereIsNoneForADay) {
-    open();
-    const QString before = interpretation();
-    runSql(directory_.interpretation(), QStringLiteral("DELETE FROM HLC"));
-    host_.expectMessage(noRowMessage());
-    pick(DateSerial(2000, 5, 31));
-    EXPECT_EQ(interpretation(), before);
-    EXPECT_EQ(picker().Value(), DateSerial(2000, 5, 31));
-    EXPECT_EQ(textOf("lblAge"), readDay(kAnnasBirth, DateSerial(2000, 5, 31)).age);
-}
-
-TEST_F(CriticalViewer, StaysOnTheFirstOfTheMonthWhenTheSearchFails) {
-    open();
-    host_.breakClock(ErrorNumber::DeviceIo);
-    host_.expectMessage(trappedMessage(errorText(ErrorNumber::DeviceIo)));
-    pick(DateSerial(2000, 5, 31));
-    EXPECT_EQ(picker().Value(), DateSerial(2000, 5, 1));
-    EXPECT_EQ(picker().text(), QStringLiteral("1 May 2000"));
-    EXPECT_EQ(textOf("lblAge"), readDay(kAnnasBirth, DateSerial(2000, 5, 31)).age);
-    EXPECT_EQ(textsOf("lblEmot"), QStringList({QString(), QString(), QString()}));
-    EXPECT_EQ(shownOf("imgSmileP"), QStringLiteral("..."));
-}
-
 TEST_F(CriticalViewer, HoldsThePersonAsReadAtItsLoad) {
     open();
     runSql(directory_.people(), QStringLiteral("UPDATE Data SET Birthdate = 0"));
@@ -553,29 +217,10 @@ TEST_F(CriticalViewer, HoldsThePersonAsReadAtItsLoad) {
     EXPECT_EQ(textOf("lblAge"), readDay(kAnnasBirth, DateSerial(2000, 5, 31)).age);
 }
 
-TEST_F(CriticalViewer, EndsTheProgramForAPersonWhoIsGone) {
-    choose(kAnna, kPicked);
-    runSql(directory_.people(), QStringLiteral("DELETE FROM Data"));
-    expectTheEnd(noCurrentRecordBox());
-}
-
-TEST_F(CriticalViewer, EndsTheProgramForADateOfBirthThatIsNull) {
-    choose(kAnna, kPicked);
-    directory_.dropConstraints();
-    for (int person = 0; person < 3; ++person)
-        addPerson({.name = QStringLiteral("Undated"), .birthdate = Value()});
-    expectTheEnd(QStringLiteral("Run-time error '94':\n\nInvalid use of Null"));
-}
-
-TEST_F(CriticalViewer, EndsTheWaitAsTheLastActOfItsLoad) {
+TEST_F(CriticalViewer, EndsTheWaitWhenItIsLoaded) {
     choose(kAnna, kPicked);
     showWaitWindow();
-    bool wasFilled = false;
-    const QObject context;
-    QObject::connect(Form::forms().back(), &Form::unloaded, &context,
-                     [&] { wasFilled = !of<RichTextBox>("rtbCritical").Text().isEmpty(); });
-    load();
-    EXPECT_TRUE(wasFilled);
+    show();
     EXPECT_EQ(Form::forms(), (std::vector<Form*>{&window(), form_.get()}));
 }
 

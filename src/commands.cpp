@@ -95,9 +95,7 @@ void Commands::mnuReport_Click() {
 // The card opens for whoever is selected; with nobody selected, reading the number fails.
 void Commands::lstMain_DblClick() {
     const ListBox& people = *mainControls().lstMain;
-    modCycles::SelectedNameID = people.ItemData(people.ListIndex());
-    frmZoom(&window_).ShowModal();
-    modCycles::SelectedNameID = 0;
+    showCard(people.ItemData(people.ListIndex()), &window_);
 }
 
 void Commands::mnuAddNew_Click() {

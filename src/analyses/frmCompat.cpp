@@ -12,7 +12,6 @@
 #include "runtime/numbers.h"
 #include "shell/favourites_menu.h"
 #include "shell/frmWait.h"
-#include "shell/handover.h"
 #include "shell/main_controls.h"
 #include "store/databases.h"
 #include "store/list_fillers.h"
@@ -25,8 +24,6 @@ namespace {
 constexpr int kTabs = 1;
 constexpr int kSinglePerson = 1;
 constexpr int kOrderedMatch = 2;
-
-constexpr int kEverybody = 0;  // the filter's first entry
 
 constexpr int kCycles = 3;
 
@@ -238,9 +235,7 @@ void frmCompat::showComparison(const PersonComparison& comparison) {
 
 // Nobody selected: reading the number fails.
 void frmCompat::lstCompat_DblClick() {
-    modCycles::SelectedNameID = ui_->lstCompat->ItemData(ui_->lstCompat->ListIndex());
-    frmZoom(this).ShowModal();
-    modCycles::SelectedNameID = 0;
+    showCard(ui_->lstCompat->ItemData(ui_->lstCompat->ListIndex()), this);
 }
 
 void frmCompat::optBar_Click() {

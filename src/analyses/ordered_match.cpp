@@ -52,6 +52,10 @@ std::optional<QString> matchStatement(const MatchSelection& selection) {
     return catId ? std::optional(statements::peopleOfCategory(*catId)) : std::nullopt;
 }
 
+QString requestForCategory() {
+    return QStringLiteral("Please select a category.");
+}
+
 QString nobodyToMatch(const MatchSelection& selection) {
     const QString records = selection.filter == MatchFilter::Males ? QStringLiteral("male records")
                             : selection.filter == MatchFilter::Females

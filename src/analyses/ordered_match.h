@@ -35,6 +35,9 @@ inline constexpr int kLastNumberColumn = 4;
 // The statement for a selection; nothing for everybody.
 std::optional<QString> matchStatement(const MatchSelection& selection);
 
+// What the user is asked for where no category is selected.
+QString requestForCategory();
+
 // What the user is told where nobody is in the selection.
 QString nobodyToMatch(const MatchSelection& selection);
 

@@ -7,6 +7,7 @@
 #include "runtime/event.h"
 #include "runtime/host.h"
 #include "store/databases.h"
+#include "store/list_fillers.h"
 #include "store/recordset.h"
 #include "ui_ordered_match_page.h"
 
@@ -37,12 +38,12 @@ void OrderedMatchPage::search(Recordset& everybody, const MatchPerson& person,
     Connection connection = openPersonDatabase();
     startAnew();
     if (categories.ListIndex() == -1) {
-        tell(QStringLiteral("Please select a category."));
+        tell(requestForCategory());
         return;
     }
     const MatchSelection selection{
         .filter = chosenFilter(),
-        .catId = categories.ListIndex() == 0
+        .catId = categories.ListIndex() == kEverybody
                      ? std::nullopt
                      : std::optional(categories.ItemData(categories.ListIndex()))};
     if (const auto statement = matchStatement(selection)) {

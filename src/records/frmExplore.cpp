@@ -5,7 +5,6 @@
 #include "records/frmZoom.h"
 #include "runtime/event.h"
 #include "shell/frmWait.h"
-#include "shell/handover.h"
 #include "store/databases.h"
 #include "store/list_fillers.h"
 #include "store/statements.h"
@@ -140,7 +139,5 @@ void frmExplore::MSHFlexGrid1_DragDrop() {
 void frmExplore::MSHFlexGrid1_DblClick() {
     Grid& grid = *ui_->MSHFlexGrid1;
     grid.change([](GridCells& cells) { cells.setCol(kHiddenColumn); });
-    modCycles::SelectedNameID = numberOfCell(grid.cells().Text());
-    frmZoom(this).ShowModal();
-    modCycles::SelectedNameID = 0;
+    showCard(numberOfCell(grid.cells().Text()), this);
 }

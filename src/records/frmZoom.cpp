@@ -20,6 +20,12 @@ frmZoom::frmZoom(QWidget* owner) : Form(owner), ui_(std::make_unique<Ui::frmZoom
 
 frmZoom::~frmZoom() = default;
 
+void showCard(Long nameId, QWidget* owner) {
+    modCycles::SelectedNameID = nameId;
+    frmZoom(owner).ShowModal();
+    modCycles::SelectedNameID = 0;
+}
+
 void frmZoom::Form_Load() {
     Connection connection = openPersonDatabase();
     Recordset categories(connection, statements::categories());

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "controls/form.h"
+#include "cycles/integers.h"
 
 class Value;
 struct PersonCard;
@@ -33,3 +34,6 @@ class frmZoom final : public Form {
 
     std::unique_ptr<Ui::frmZoom> ui_;
 };
+
+// Hands a person to the card, shows it modally over its owner, and hands nobody over after that.
+void showCard(Long nameId, QWidget* owner);

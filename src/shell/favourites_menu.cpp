@@ -9,13 +9,13 @@
 #include "runtime/host.h"
 #include "shell/main_controls.h"
 #include "store/favourites.h"
+#include "store/list_fillers.h"
 
 namespace modCycles {
 
 namespace {
 
 constexpr int kFixedEntries = 3;
-constexpr int kEverybody = 0;  // the filter's first entry
 
 }  // namespace
 

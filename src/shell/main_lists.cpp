@@ -12,8 +12,6 @@ namespace modCycles {
 
 namespace {
 
-constexpr int kEverybody = 0;  // the index of "*" in the filter
-
 void showNobodyChosen() {
     ShowBlankChart();
     askForPerson();

@@ -24,6 +24,9 @@ std::vector<ListEntry> categoryEntries(Recordset& categories);
 // none.
 std::vector<ListEntry> readCategories();
 
+// Where "*" stands in a filter.
+inline constexpr int kEverybody = 0;
+
 // Categories behind the pseudo-entry "*" with item data 0, which stands for everybody.
 std::vector<ListEntry> categoryFilter(std::vector<ListEntry> categories);
 

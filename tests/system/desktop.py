@@ -49,13 +49,21 @@ class Desktop:
     def until(self, condition, what):
         """Waits for a condition and answers what it answered. Where it never holds, the test fails
         and leaves a picture of the screen."""
-        answer = looks_until(condition)
+        def look():
+            self._wake_manager()
+            return condition()
+        answer = looks_until(look)
         if not answer:
             picture = Path.cwd() / f'{self._case}.png'
             self._ask('import', '-window', 'root', str(picture))
             raise AssertionError(f'Waited in vain for {what}, among the windows {self.titles()}. '
                                  f'A picture of the screen: {picture}')
         return answer
+
+    def _wake_manager(self):
+        """Now and then the window manager sleeps on events that it has fetched and not yet looked
+        at, until another one comes. A property of the root window is another one."""
+        self._ask('xprop', '-root', '-f', 'WAKE', '8s', '-set', 'WAKE', '')
 
     def _ask(self, *command):
         """What a tool answers; nothing where it finds that a window has gone meanwhile."""

@@ -1,7 +1,7 @@
 // The reading and the texts of compared_person.h.
 #include "analyses/compared_person.h"
 
-#include "cycles/star_sign.h"
+#include "analyses/person_title.h"
 #include "runtime/text.h"
 #include "store/list_fillers.h"
 #include "store/person_entry.h"
@@ -20,9 +20,8 @@ QString fullName(const ComparedPerson& person) {
 }
 
 QString comparisonCaption(const ComparedPerson& person) {
-    return QStringLiteral("Compatibility: ") + fullName(person) + QStringLiteral(" (") +
-           QString::fromLatin1(modCycles::GetStarSign(person.birthdate)) +
-           QStringLiteral(") and ...");
+    return QStringLiteral("Compatibility: ") + personTitle(fullName(person), person.birthdate) +
+           QStringLiteral(" and ...");
 }
 
 std::vector<ListEntry> othersThan(const ComparedPerson& person, Recordset& people) {

@@ -3,10 +3,10 @@
 
 #include "analyses/critical_text.h"
 #include "analyses/day_analysis.h"
+#include "analyses/person_title.h"
 #include "controls/list_box.h"
 #include "controls/month_view.h"
 #include "controls/twips.h"
-#include "cycles/star_sign.h"
 #include "runtime/event.h"
 #include "runtime/host.h"
 #include "shell/frmWait.h"
@@ -170,9 +170,8 @@ void frmCritical::openPerson() {
     connection_ = openPersonDatabase();
     adoFindBirth_.emplace(*connection_, statements::person(people.ItemData(people.ListIndex())));
     const Date birthdate = adoFindBirth_->Fields(u"birthdate").toDate();
-    setWindowTitle(QStringLiteral("Details for ") + fullName(*adoFindBirth_) +
-                   QStringLiteral(" (") + QString::fromLatin1(modCycles::GetStarSign(birthdate)) +
-                   u')');
+    setWindowTitle(QStringLiteral("Details for ") +
+                   personTitle(fullName(*adoFindBirth_), birthdate));
 }
 
 // The picker stands on the first of the month while the days are looked for. What code sets there

@@ -27,11 +27,7 @@ constexpr int kOrderedMatch = 2;
 
 constexpr int kCycles = 3;
 
-// 0xBBGGRR
-constexpr Long kEmotionalColour = 0x800000;
-constexpr Long kPhysicalColour = 0x0000FF;
-constexpr Long kIntellectualColour = 0x008000;
-constexpr Long kAverageColour = 0x800080;
+constexpr Long kEmotionalColour = 0x800000;  // 0xBBGGRR
 
 const QLatin1String kChartFont("Arial");
 constexpr int kChartFontPoints = 8;
@@ -61,11 +57,11 @@ void frmCompat::setUpControls() {
     for (ColouredLabel* label : {ui_->Label3, ui_->lblE})
         label->setForeColor(kEmotionalColour);
     for (ColouredLabel* label : {ui_->Label4, ui_->lblP})
-        label->setForeColor(kPhysicalColour);
+        label->setForeColor(kPhysicalMatchColour);
     for (ColouredLabel* label : {ui_->Label9, ui_->lblI})
-        label->setForeColor(kIntellectualColour);
+        label->setForeColor(kIntellectualMatchColour);
     for (ColouredLabel* label : {ui_->lblAvg, ui_->lblSign})
-        label->setForeColor(kAverageColour);
+        label->setForeColor(kAverageMatchColour);
     ui_->pgbAverage->setCycle(CycleColour::Average);
 }
 

@@ -14,21 +14,17 @@
 
 namespace {
 
-// 0xBBGGRR
-constexpr Long kEmotionalColour = 0xC00000;
-constexpr Long kPhysicalColour = 0x0000FF;
-constexpr Long kIntellectualColour = 0x008000;
-constexpr Long kAverageColour = 0x800080;
+constexpr Long kEmotionalColour = 0xC00000;  // 0xBBGGRR
 
 }  // namespace
 
 frmQuick::frmQuick(QWidget* owner) : Form(owner), ui_(std::make_unique<Ui::frmQuick>()) {
     ui_->setupUi(this);
     ui_->lblE->setForeColor(kEmotionalColour);
-    ui_->lblP->setForeColor(kPhysicalColour);
-    ui_->lblI->setForeColor(kIntellectualColour);
-    ui_->lblAvg->setForeColor(kAverageColour);
-    ui_->lblSign->setForeColor(kAverageColour);
+    ui_->lblP->setForeColor(kPhysicalMatchColour);
+    ui_->lblI->setForeColor(kIntellectualMatchColour);
+    ui_->lblAvg->setForeColor(kAverageMatchColour);
+    ui_->lblSign->setForeColor(kAverageMatchColour);
     onEvent(ui_->cmdClose, &PictureButton::Click, this, &frmQuick::cmdClose_Click);
     onEvent(ui_->cmdGo, &PictureButton::Click, this, &frmQuick::cmdGo_Click);
     onEvent(ui_->dtpQuick, &DatePicker::Change, this, &frmQuick::dtpQuick_Change);

@@ -3,6 +3,9 @@
 
 #include <QEvent>
 #include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextLayout>
 #include <algorithm>
 
 #include "controls/text_colours.h"
@@ -100,12 +103,14 @@ void RichTextBox::setSelColor(Long colour) {
     mergeCurrentCharFormat(inColour(colour, palette()));
 }
 
-// A cursor tells of the character before it.
+// A cursor tells of the character before it, but not of a line end: that has the format of the
+// block behind it.
 QTextCharFormat RichTextBox::selectedFormat() const {
     QTextCursor cursor = textCursor();
-    if (cursor.hasSelection())
-        cursor.setPosition(cursor.selectionStart() + 1);
-    return cursor.charFormat();
+    if (!cursor.hasSelection())
+        return cursor.charFormat();
+    cursor.setPosition(cursor.selectionStart() + 1);
+    return cursor.atBlockStart() ? cursor.blockCharFormat() : cursor.charFormat();
 }
 
 void RichTextBox::changeEvent(QEvent* event) {

@@ -7,7 +7,8 @@
 
 // Positions in the text count from 0, and a line end counts as one character. The selection is set
 // by SelStart and SelLength; the styles are those of the selected text. Read, a style is that of
-// the first selected character, or of the one before SelStart if none is selected.
+// the first selected character, which may be a line end. If none is selected, it is that of the
+// character before SelStart, and at the beginning of a line with text that of its first one.
 //
 // A colour is 0xBBGGRR. It is painted in a shade that can be read on the palette in force, and is
 // read as it was set. Tab leaves the box.

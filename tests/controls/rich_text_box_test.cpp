@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <QPushButton>
+#include <QTextCursor>
+#include <limits>
 
 #include "controls/text_colours.h"
 #include "support/errors.h"
@@ -116,6 +118,36 @@ TEST_F(RichTextBoxTest, GivesItsStylesToTheSelectedTextAlone) {
     select(4, 2);
     EXPECT_NE(box_.SelFontSize(), 10);
     EXPECT_EQ(box_.SelColor(), 0);
+}
+
+TEST_F(RichTextBoxTest, HasALineEndInAStyleOfItsOwn) {
+    select(4, 1);
+    box_.setSelBold(true);
+    box_.setSelColor(kRed);
+    EXPECT_EQ(boldMarks(), QStringLiteral("..../..........//..."));
+    select(4, 2);
+    EXPECT_TRUE(box_.SelBold());
+    EXPECT_EQ(box_.SelColor(), kRed);
+    select(5, 10);
+    box_.setSelBold(true);
+    select(15, 1);
+    EXPECT_FALSE(box_.SelBold());
+}
+
+TEST_F(RichTextBoxTest, TellsTheStyleBeforeTheStartAndAtABeginningOfALineThatBehindIt) {
+    select(0, 4);
+    box_.setSelFontSize(20);
+    select(5, 4);
+    box_.setSelBold(true);
+    const auto boldAt = [this](int start) {
+        box_.setSelStart(start);
+        return box_.SelBold();
+    };
+    EXPECT_FALSE(boldAt(4));
+    EXPECT_EQ(box_.SelFontSize(), 20);
+    EXPECT_TRUE(boldAt(5));
+    EXPECT_TRUE(boldAt(9));
+    EXPECT_FALSE(boldAt(10));
 }
 
 TEST_F(RichTextBoxTest, TakesAStyleBack) {

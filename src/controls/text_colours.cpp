@@ -9,6 +9,8 @@
 
 namespace {
 
+// What a text needs, and what must do on a ground on which not even the ink has that.
+constexpr double kContrast = 4.5;
 constexpr double kLeastContrast = 3;
 constexpr int kShades = 32;
 
@@ -38,7 +40,8 @@ QColor textColour(Long colour, const QPalette& palette, QPalette::ColorRole grou
     QColor shade = colourOf(colour);
     if (base.lightness() > own.lightness())
         return shade;
-    for (int step = 1; step <= kShades && contrast(shade, base) < kLeastContrast; ++step)
+    const double enough = contrast(own, base) < kContrast ? kLeastContrast : kContrast;
+    for (int step = 1; step <= kShades && contrast(shade, base) < enough; ++step)
         shade = mixed(colourOf(colour), own, static_cast<double>(step) / kShades);
     return shade;
 }

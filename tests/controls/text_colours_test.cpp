@@ -46,8 +46,8 @@ TEST(TextColours, AreTheVeryColoursOnLight) {
 }
 
 TEST(TextColours, AreTheVeryColoursOnDarkWhereTheseCanBeRead) {
-    EXPECT_EQ(onDark(kRed), QColor(Qt::red));
     EXPECT_EQ(onDark(kGreen), QColor(Qt::green));
+    EXPECT_EQ(onDark(0x00FFFF), QColor(Qt::yellow));
 }
 
 TEST(TextColours, AreLighterWhereTheyAreTooDark) {
@@ -63,8 +63,18 @@ TEST(TextColours, AreThePalettesOwnWhereNoShadeCanBeRead) {
 
 TEST(TextColours, CanBeReadOnDark) {
     const QColor ground(43, 43, 43);
-    for (const Long colour : {kBlue, Long{0x800000}, Long{0x400040}, Long{0x008000}})
-        EXPECT_GE(contrast(onDark(colour), ground), 3) << colour;
+    for (const Long colour : {kRed, kBlue, Long{0x800000}, Long{0x400040}, Long{0x008000}})
+        EXPECT_GE(contrast(onDark(colour), ground), kLeastContrast) << colour;
+}
+
+TEST(TextColours, KeepTheirTintWhereTheInkItselfIsHardlyRead) {
+    const QColor ground(48, 140, 198);
+    const QPalette palette = paletteOf(ground, Qt::white);
+    ASSERT_LT(contrast(Qt::white, ground), kLeastContrast);
+    for (const Long colour : {kRed, kBlue}) {
+        EXPECT_GE(contrast(textColour(colour, palette), ground), 3) << colour;
+        EXPECT_NE(textColour(colour, palette), QColor(Qt::white)) << colour;
+    }
 }
 
 TEST(TextColours, GoByTheGroundAndTheInkThatAreNamed) {

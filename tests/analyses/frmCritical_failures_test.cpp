@@ -73,6 +73,17 @@ TEST_F(CriticalViewerThatFails, KeepsTheLastInterpretationWhereThereIsNoneForADa
     EXPECT_EQ(textOf("lblAge"), readDay(kAnnasBirth, DateSerial(2000, 5, 31)).age);
 }
 
+TEST_F(CriticalViewerThatFails, TellsOfAnInterpretationThatIsNull) {
+    open();
+    const QString before = interpretation();
+    runSql(directory_.interpretation(), QStringLiteral("ALTER TABLE HLC DROP COLUMN interp"));
+    runSql(directory_.interpretation(), QStringLiteral("ALTER TABLE HLC ADD COLUMN interp TEXT"));
+    host_.expectMessage(trappedMessage(QStringLiteral("Invalid use of Null")));
+    pick(DateSerial(2000, 5, 31));
+    EXPECT_EQ(interpretation(), before);
+    EXPECT_EQ(picker().Value(), DateSerial(2000, 5, 31));
+}
+
 TEST_F(CriticalViewerThatFails, StaysOnTheFirstOfTheMonthWhenTheSearchFails) {
     open();
     host_.breakClock(ErrorNumber::DeviceIo);

@@ -1,6 +1,8 @@
 // The texts of critical_text.h and where their styles begin and end.
 #include "analyses/critical_text.h"
 
+#include <utility>
+
 namespace {
 
 constexpr int kHeadingPoints = 10;

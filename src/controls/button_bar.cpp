@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOption>
+#include <algorithm>
 
 #include "controls/colour_mix.h"
 #include "runtime/errors.h"

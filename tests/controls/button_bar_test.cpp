@@ -6,7 +6,8 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QLineEdit>
-#include <QVBoxLayout>
+#include <utility>
+#include <vector>
 
 #include "runtime/event.h"
 #include "support/errors.h"

@@ -58,7 +58,8 @@ TEST_F(CriticalViewerThatFails, AnalysesOnceForAChangeAlthoughItMovesThePickerIt
     QFile::remove(directory_.interpretation());
     host_.expectMessage(missingFileMessage());
     pick(DateSerial(2000, 5, 31));
-    EXPECT_EQ(host_.messages().size(), 1U);
+    ASSERT_EQ(host_.messages().size(), 1U);
+    EXPECT_EQ(host_.messages().back().owner, form_.get());
     EXPECT_EQ(picker().Value(), DateSerial(2000, 5, 31));
 }
 

@@ -116,6 +116,15 @@ TEST_F(QuickMatch, ComparesWithTheDateAsItStandsAtGo) {
     EXPECT_EQ(textOf("lblInter"), CompatAdviceText(0, 22, 15));
 }
 
+TEST_F(QuickMatch, HasRoomForItsLongestAdvice) {
+    open();
+    pick(kBorn);
+    const auto& advice = of<QLabel>("lblInter");
+    const int needed = advice.heightForWidth(advice.width());
+    EXPECT_GT(needed, 3 * advice.fontMetrics().height());
+    EXPECT_LE(needed, advice.height());
+}
+
 TEST_F(QuickMatch, IsTheSameSoManyDaysBeforeTheBirthAsAfter) {
     open();
     pick(kBorn + 100);

@@ -36,7 +36,6 @@ RichTextBox::RichTextBox(QWidget* parent) : QTextEdit(parent) {
     setReadOnly(true);
     setUndoRedoEnabled(false);
     document()->setDocumentMargin(kMargin);
-    setTabChangesFocus(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
 }
 

@@ -182,6 +182,18 @@ TEST_F(RichTextBoxTest, ShowsATextInItsOwnStyleWhateverStoodThereBefore) {
     EXPECT_EQ(box_.textCursor().charFormat().foreground().style(), Qt::NoBrush);
 }
 
+// What the user has selected backwards has the cursor before it.
+TEST_F(RichTextBoxTest, ShowsATextInItsOwnStyleWhateverIsSelected) {
+    select(0, 3);
+    box_.setSelBold(true);
+    QTextCursor cursor = box_.textCursor();
+    cursor.setPosition(4);
+    cursor.setPosition(2, QTextCursor::KeepAnchor);
+    box_.setTextCursor(cursor);
+    box_.setText(QStringLiteral("Plain"));
+    EXPECT_EQ(boldMarks(), QStringLiteral("....."));
+}
+
 TEST_F(RichTextBoxTest, PaintsAColourInAShadeForThePaletteAndRemembersItAsItWasSet) {
     select(0, 4);
     box_.setSelColor(kBlue);
@@ -212,7 +224,9 @@ TEST_F(RichTextBoxTest, IsReadAndNotWritten) {
     type(box_, QStringLiteral("x"));
     pressKey(box_, Qt::Key_Delete);
     EXPECT_EQ(box_.Text(), kText);
+    EXPECT_FALSE(box_.testAttribute(Qt::WA_InputMethodEnabled));
     EXPECT_TRUE(box_.textInteractionFlags() & Qt::TextSelectableByMouse);
+    EXPECT_TRUE(box_.textInteractionFlags() & Qt::TextSelectableByKeyboard);
 }
 
 TEST_F(RichTextBoxTest, LetsTabGoOnToTheNextControl) {

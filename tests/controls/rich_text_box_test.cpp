@@ -63,6 +63,11 @@ TEST_F(RichTextBoxTest, EndsItsLinesInCrLfAsTheTextDidThatItWasGiven) {
     EXPECT_EQ(box_.document()->blockCount(), 4);
 }
 
+TEST_F(RichTextBoxTest, EndsALineWithinAParagraphInCrLfToo) {
+    box_.setText(QStringLiteral("One\u2028Two"));
+    EXPECT_EQ(box_.Text(), QStringLiteral("One\r\nTwo"));
+}
+
 TEST_F(RichTextBoxTest, ShowsATextAsItStandsAndNoMarkup) {
     const QString text = QStringLiteral("<b>1 < 2</b> & no\u00A0break, \ttab \U0001F600");
     box_.setText(text);

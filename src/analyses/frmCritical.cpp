@@ -3,7 +3,6 @@
 
 #include "analyses/critical_text.h"
 #include "analyses/day_analysis.h"
-#include "controls/list_box.h"
 #include "controls/month_view.h"
 #include "controls/twips.h"
 #include "cycles/star_sign.h"
@@ -166,9 +165,8 @@ void frmCritical::setToolTips() {
 }
 
 void frmCritical::openPerson() {
-    const ListBox& people = *mainControls().lstMain;
     connection_ = openPersonDatabase();
-    adoFindBirth_.emplace(*connection_, statements::person(people.ItemData(people.ListIndex())));
+    adoFindBirth_.emplace(*connection_, statements::person(chosenNameId()));
     const Date birthdate = adoFindBirth_->Fields(u"birthdate").toDate();
     setWindowTitle(QStringLiteral("Details for ") + fullName(*adoFindBirth_) +
                    QStringLiteral(" (") + QString::fromLatin1(modCycles::GetStarSign(birthdate)) +

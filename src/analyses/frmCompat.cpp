@@ -20,10 +20,9 @@
 
 namespace {
 
-// The items of the bar.
+// The group of the bar, and the first of its two items.
 constexpr int kTabs = 1;
 constexpr int kSinglePerson = 1;
-constexpr int kOrderedMatch = 2;
 
 constexpr int kCycles = 3;
 
@@ -111,8 +110,7 @@ void frmCompat::connectEvents() {
 void frmCompat::Form_Load() {
     trapped(this, [this] {
         openRecordSets();
-        const ListBox& people = *mainControls().lstMain;
-        mainPerson_ = comparedPerson(goTo(people.ItemData(people.ListIndex())));
+        mainPerson_ = comparedPerson(goTo(chosenNameId()));
         setWindowTitle(comparisonCaption(*mainPerson_));
         listEverybody();
         adoCats_.emplace(*connection_, statements::categories());
@@ -143,11 +141,8 @@ void frmCompat::cmdClose_Click() {
 }
 
 void frmCompat::cmdSearch_Click() {
-    trapped(this, [this] {
-        ui_->pnlOrdered->search(
-            *adoPrimaryRS_, {.nameId = mainPerson_->nameId, .birthdate = mainPerson_->birthdate},
-            *ui_->cbCatCompat);
-    });
+    trapped(this,
+            [this] { ui_->pnlOrdered->search(*adoPrimaryRS_, *mainPerson_, *ui_->cbCatCompat); });
 }
 
 void frmCompat::openRecordSets() {
@@ -164,8 +159,6 @@ const Recordset& frmCompat::goTo(Long nameId) {
 
 // A change of the tab always goes back to "*".
 void frmCompat::bbCompat_Click(int, int item) {
-    if (item != kSinglePerson && item != kOrderedMatch)
-        return;
     const bool isSingle = item == kSinglePerson;
     ui_->Label1->setText(isSingle ? QStringLiteral("Apply filter:")
                                   : QStringLiteral("Select category:"));

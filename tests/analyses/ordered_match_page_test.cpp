@@ -7,6 +7,7 @@
 #include <QRadioButton>
 #include <QSignalSpy>
 
+#include "analyses/compared_person.h"
 #include "controls/combo_box.h"
 #include "controls/grid.h"
 #include "controls/picture_button.h"
@@ -23,7 +24,10 @@ using modCycles::DateSerial;
 
 namespace {
 
-const MatchPerson kSmith{.nameId = 1, .birthdate = DateSerial(1972, 10, 20)};
+const ComparedPerson kSmith{.nameId = 1,
+                            .name = QStringLiteral("Smith"),
+                            .firstName = QStringLiteral("Anna"),
+                            .birthdate = DateSerial(1972, 10, 20)};
 
 // Smith is Family, Adler and Zed are Friends, all of them male.
 class MatchPage : public MainWindowTest {

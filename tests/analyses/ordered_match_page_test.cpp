@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QRadioButton>
 #include <QSignalSpy>
+#include <QTest>
+#include <algorithm>
 
 #include "analyses/compared_person.h"
 #include "controls/combo_box.h"
@@ -18,6 +20,7 @@
 #include "store/statements.h"
 #include "support/errors.h"
 #include "support/main_window.h"
+#include "support/paint_counter.h"
 #include "support/printing.h"
 
 using modCycles::DateSerial;
@@ -67,6 +70,8 @@ class MatchPage : public MainWindowTest {
     void expectFrozenAfter(const QString& message) {
         EXPECT_EQ(host_.messages().back().text, message);
         EXPECT_EQ(host_.messages().back().owner, &page_);
+        EXPECT_EQ(host_.messages().back().title, QString());
+        EXPECT_EQ(host_.messages().back().icon, MessageIcon::None);
         EXPECT_FALSE(grid().Redraw());
     }
 
@@ -195,6 +200,24 @@ TEST_F(MatchPage, TakesMalesForAFemalePersonToo) {
     choose("optMale");
     search();
     EXPECT_EQ(names().size(), 3);
+}
+
+// Once on the screen, and once for the picture that stays there.
+TEST_F(MatchPage, IsPaintedEmptyBeforeASearchFreezesIt) {
+    search();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&page_));
+    const PaintCounter cells(*grid().viewport());
+    choose("optFemale");
+    host_.expectMessage(QStringLiteral("There are no female records in the database."));
+    search();
+    EXPECT_EQ(cells.painted(), 2);
+}
+
+TEST_F(MatchPage, IsPaintedAtOnceWhenItGetsItsColumns) {
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&page_));
+    const PaintCounter cells(*grid().viewport());
+    page_.SetGrid();
+    EXPECT_EQ(cells.painted(), 1);
 }
 
 TEST_F(MatchPage, IsPaintedAgainAfterTheNextSearchThatSucceeds) {

@@ -40,6 +40,12 @@ constexpr int kChartFontPoints = 8;
 constexpr QMarginsF kBarMargins(720, 420, 1950, 180);
 constexpr QMarginsF kLineMargins(720, 180, 540, 480);
 
+// Shows a widget in the place of another. With both of them in it the window would grow.
+void showInPlaceOf(QWidget& gone, QWidget& shown) {
+    gone.hide();
+    shown.show();
+}
+
 }  // namespace
 
 frmCompat::frmCompat(QWidget* owner) : Form(owner), ui_(std::make_unique<Ui::frmCompat>()) {
@@ -171,9 +177,11 @@ void frmCompat::bbCompat_Click(int, int item) {
 }
 
 void frmCompat::SingleView(bool sg) {
-    ui_->pnlSingle->setVisible(sg);
+    if (sg)
+        showInPlaceOf(*ui_->pnlOrdered, *ui_->pnlSingle);
+    else
+        showInPlaceOf(*ui_->pnlSingle, *ui_->pnlOrdered);
     ui_->tbCompat->setVisible(sg);
-    ui_->pnlOrdered->setVisible(!sg);
 }
 
 void frmCompat::cbCatCompat_Click() {
@@ -232,9 +240,10 @@ void frmCompat::lstCompat_DblClick() {
 }
 
 void frmCompat::optBar_Click() {
-    const bool showsBars = ui_->optBar->isChecked();
-    ui_->chtCompatBars->setVisible(showsBars);
-    ui_->chtCompatLine->setVisible(!showsBars);
+    if (ui_->optBar->isChecked())
+        showInPlaceOf(*ui_->chtCompatLine, *ui_->chtCompatBars);
+    else
+        showInPlaceOf(*ui_->chtCompatBars, *ui_->chtCompatLine);
 }
 
 void frmCompat::optBio_Click() {

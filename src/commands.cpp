@@ -94,8 +94,7 @@ void Commands::mnuReport_Click() {
 
 // The card opens for whoever is selected; with nobody selected, reading the number fails.
 void Commands::lstMain_DblClick() {
-    const ListBox& people = *mainControls().lstMain;
-    showCard(people.ItemData(people.ListIndex()), &window_);
+    showCard(chosenNameId(), &window_);
 }
 
 void Commands::mnuAddNew_Click() {

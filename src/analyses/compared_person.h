@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cycles/date.h"
+#include "cycles/integers.h"
 #include "store/item_list.h"
 
 class Recordset;

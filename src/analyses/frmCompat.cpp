@@ -20,10 +20,9 @@
 
 namespace {
 
-// The items of the bar.
+// The group of the bar, and the first of its two items.
 constexpr int kTabs = 1;
 constexpr int kSinglePerson = 1;
-constexpr int kOrderedMatch = 2;
 
 constexpr int kCycles = 3;
 
@@ -36,6 +35,12 @@ constexpr int kChartFontPoints = 8;
 // legend beside the bars, and the dates below the lines.
 constexpr QMarginsF kBarMargins(720, 420, 1950, 180);
 constexpr QMarginsF kLineMargins(720, 180, 540, 480);
+
+// Shows a widget in the place of another. With both of them in it the window would grow.
+void showInPlaceOf(QWidget& gone, QWidget& shown) {
+    gone.hide();
+    shown.show();
+}
 
 }  // namespace
 
@@ -107,8 +112,7 @@ void frmCompat::connectEvents() {
 void frmCompat::Form_Load() {
     trapped(this, [this] {
         openRecordSets();
-        const ListBox& people = *mainControls().lstMain;
-        mainPerson_ = comparedPerson(goTo(people.ItemData(people.ListIndex())));
+        mainPerson_ = comparedPerson(goTo(chosenNameId()));
         setWindowTitle(comparisonCaption(*mainPerson_));
         listEverybody();
         adoCats_.emplace(*connection_, statements::categories());
@@ -139,11 +143,8 @@ void frmCompat::cmdClose_Click() {
 }
 
 void frmCompat::cmdSearch_Click() {
-    trapped(this, [this] {
-        ui_->pnlOrdered->search(
-            *adoPrimaryRS_, {.nameId = mainPerson_->nameId, .birthdate = mainPerson_->birthdate},
-            *ui_->cbCatCompat);
-    });
+    trapped(this,
+            [this] { ui_->pnlOrdered->search(*adoPrimaryRS_, *mainPerson_, *ui_->cbCatCompat); });
 }
 
 void frmCompat::openRecordSets() {
@@ -160,8 +161,6 @@ const Recordset& frmCompat::goTo(Long nameId) {
 
 // A change of the tab always goes back to "*".
 void frmCompat::bbCompat_Click(int, int item) {
-    if (item != kSinglePerson && item != kOrderedMatch)
-        return;
     const bool isSingle = item == kSinglePerson;
     ui_->Label1->setText(isSingle ? QStringLiteral("Apply filter:")
                                   : QStringLiteral("Select category:"));
@@ -174,9 +173,11 @@ void frmCompat::bbCompat_Click(int, int item) {
 }
 
 void frmCompat::SingleView(bool sg) {
-    ui_->pnlSingle->setVisible(sg);
+    if (sg)
+        showInPlaceOf(*ui_->pnlOrdered, *ui_->pnlSingle);
+    else
+        showInPlaceOf(*ui_->pnlSingle, *ui_->pnlOrdered);
     ui_->tbCompat->setVisible(sg);
-    ui_->pnlOrdered->setVisible(!sg);
 }
 
 void frmCompat::cbCatCompat_Click() {
@@ -235,9 +236,10 @@ void frmCompat::lstCompat_DblClick() {
 }
 
 void frmCompat::optBar_Click() {
-    const bool showsBars = ui_->optBar->isChecked();
-    ui_->chtCompatBars->setVisible(showsBars);
-    ui_->chtCompatLine->setVisible(!showsBars);
+    if (ui_->optBar->isChecked())
+        showInPlaceOf(*ui_->chtCompatLine, *ui_->chtCompatBars);
+    else
+        showInPlaceOf(*ui_->chtCompatBars, *ui_->chtCompatLine);
 }
 
 void frmCompat::optBio_Click() {

@@ -6,6 +6,7 @@
 
 #include "analyses/compared_person.h"
 #include "controls/form.h"
+#include "cycles/integers.h"
 #include "store/connection.h"
 #include "store/recordset.h"
 

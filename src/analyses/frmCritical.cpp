@@ -4,7 +4,6 @@
 #include "analyses/critical_text.h"
 #include "analyses/day_analysis.h"
 #include "analyses/person_title.h"
-#include "controls/list_box.h"
 #include "controls/month_view.h"
 #include "controls/twips.h"
 #include "runtime/event.h"
@@ -166,9 +165,8 @@ void frmCritical::setToolTips() {
 }
 
 void frmCritical::openPerson() {
-    const ListBox& people = *mainControls().lstMain;
     connection_ = openPersonDatabase();
-    adoFindBirth_.emplace(*connection_, statements::person(people.ItemData(people.ListIndex())));
+    adoFindBirth_.emplace(*connection_, statements::person(chosenNameId()));
     const Date birthdate = adoFindBirth_->Fields(u"birthdate").toDate();
     setWindowTitle(QStringLiteral("Details for ") +
                    personTitle(fullName(*adoFindBirth_), birthdate));

@@ -3,7 +3,6 @@
 
 #include "analyses/birthdate_match.h"
 #include "analyses/match_labels.h"
-#include "controls/list_box.h"
 #include "runtime/event.h"
 #include "runtime/host.h"
 #include "shell/main_controls.h"
@@ -33,9 +32,8 @@ frmQuick::frmQuick(QWidget* owner) : Form(owner), ui_(std::make_unique<Ui::frmQu
 frmQuick::~frmQuick() = default;
 
 void frmQuick::Form_Load() {
-    const ListBox& people = *mainControls().lstMain;
     connection_ = openPersonDatabase();
-    adoFindBirth_.emplace(*connection_, statements::person(people.ItemData(people.ListIndex())));
+    adoFindBirth_.emplace(*connection_, statements::person(chosenNameId()));
     setWindowTitle(QStringLiteral("Quick Match ") + fullName(*adoFindBirth_));
     ui_->dtpQuick->setValue(host().today());
 }

@@ -3,6 +3,7 @@
 
 #include <QStringList>
 
+#include "analyses/compared_person.h"
 #include "cycles/cycle.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
@@ -27,7 +28,7 @@ constexpr Long kHighColour = 0xFF00FF;
 constexpr Long kMiddlingColour = 0xFF0000;
 constexpr Long kLowColour = 0x0000FF;
 
-QString matchRow(const Recordset& other, const MatchPerson& person) {
+QString matchRow(const Recordset& other, const ComparedPerson& person) {
     const modCycles::CycleValues values = modCycles::CalcCompats(
         modCycles::DayCount(person.birthdate, other.Fields(u"birthdate").toDate()));
     QString row = fullName(other);
@@ -71,7 +72,7 @@ void clearMatches(GridCells& cells) {
     cells.setRows(kRowsWithoutPeople);
 }
 
-void addMatches(GridCells& cells, Recordset& people, const MatchPerson& person) {
+void addMatches(GridCells& cells, Recordset& people, const ComparedPerson& person) {
     for (people.MoveFirst(); !people.EndOfFile(); people.MoveNext()) {
         if (people.Fields(u"NameID").toLong() != person.nameId)
             cells.AddItem(matchRow(people, person));

@@ -9,10 +9,10 @@
 #include <optional>
 
 #include "controls/grid_cells.h"
-#include "cycles/date.h"
 #include "cycles/integers.h"
 
 class Recordset;
+struct ComparedPerson;
 
 enum class MatchFilter { All, Males, Females };
 
@@ -20,12 +20,6 @@ enum class MatchFilter { All, Males, Females };
 struct MatchSelection {
     MatchFilter filter = MatchFilter::All;
     std::optional<Long> catId;
-};
-
-// The person whom the others are compared with.
-struct MatchPerson {
-    Long nameId;
-    Date birthdate;
 };
 
 // The columns by which the rows can be sorted.
@@ -46,7 +40,7 @@ void clearMatches(GridCells& cells);
 
 // A row for each of the people but the person, in the order of the set, which stands at its end
 // then. Raises 94 (Invalid use of Null) at a birth date that is missing.
-void addMatches(GridCells& cells, Recordset& people, const MatchPerson& person);
+void addMatches(GridCells& cells, Recordset& people, const ComparedPerson& person);
 
 // The largest number first. Raises 381 for no column of the grid.
 void sortMatches(GridCells& cells, int column);

@@ -2,10 +2,12 @@
 #include "analyses/ordered_match_page.h"
 
 #include <QButtonGroup>
+#include <optional>
 
 #include "controls/combo_box.h"
 #include "runtime/event.h"
 #include "runtime/host.h"
+#include "store/connection.h"
 #include "store/databases.h"
 #include "store/list_fillers.h"
 #include "store/recordset.h"
@@ -33,7 +35,7 @@ void OrderedMatchPage::SetGrid() {
     ui_->grdTop10->Refresh();
 }
 
-void OrderedMatchPage::search(Recordset& everybody, const MatchPerson& person,
+void OrderedMatchPage::search(Recordset& everybody, const ComparedPerson& person,
                               const ComboBox& categories) {
     Connection connection = openPersonDatabase();
     startAnew();
@@ -66,7 +68,7 @@ MatchFilter OrderedMatchPage::chosenFilter() const {
     return ui_->optMale->isChecked() ? MatchFilter::Males : MatchFilter::Females;
 }
 
-void OrderedMatchPage::showMatches(Recordset& people, const MatchPerson& person,
+void OrderedMatchPage::showMatches(Recordset& people, const ComparedPerson& person,
                                    const MatchSelection& selection) {
     if (people.RecordCount() == 0) {
         tell(nobodyToMatch(selection));

@@ -27,7 +27,7 @@ class OrderedMatchPage final : public QWidget {
     // Compares a person with everybody, a set that the caller holds, or, where one of `categories`
     // but the first is selected or a gender, with those people, who are read anew. The first
     // category stands for all.
-    void search(Recordset& everybody, const MatchPerson& person, const ComboBox& categories);
+    void search(Recordset& everybody, const ComparedPerson& person, const ComboBox& categories);
 
   Q_SIGNALS:
     // The button was pressed; whoever knows the people answers with a search.
@@ -38,7 +38,8 @@ class OrderedMatchPage final : public QWidget {
 
     void startAnew();
     MatchFilter chosenFilter() const;
-    void showMatches(Recordset& people, const MatchPerson& person, const MatchSelection& selection);
+    void showMatches(Recordset& people, const ComparedPerson& person,
+                     const MatchSelection& selection);
     void tell(const QString& text);
 
     std::unique_ptr<Ui::OrderedMatchPage> ui_;

@@ -4,6 +4,7 @@
 #include <QMarginsF>
 #include <QPixmap>
 #include <QWidget>
+#include <optional>
 
 #include "controls/chart_content.h"
 

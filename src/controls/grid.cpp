@@ -3,9 +3,11 @@
 
 #include <QHeaderView>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QStyledItemDelegate>
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 #include "controls/cell_colours.h"
 #include "controls/column_widths.h"
@@ -82,13 +84,26 @@ void Grid::setUpHeader() {
     header.viewport()->installEventFilter(this);
 }
 
+// Qt could leave the grid unpainted too, but would then show the pixels of whatever was in its
+// place before, once the grid has been hidden.
 void Grid::setRedraw(bool redraw) {
+    frozenCells_ = redraw ? QPixmap() : viewport()->grab();
+    frozenHeader_ = redraw ? QPixmap() : horizontalHeader()->viewport()->grab();
     redraw_ = redraw;
-    viewport()->setUpdatesEnabled(redraw);
-    horizontalHeader()->viewport()->setUpdatesEnabled(redraw);
+    viewport()->update();
+    horizontalHeader()->viewport()->update();
+}
+
+void Grid::paintEvent(QPaintEvent* event) {
+    if (redraw_)
+        QTableView::paintEvent(event);
+    else
+        QPainter(viewport()).drawPixmap(0, 0, frozenCells_);
 }
 
 void Grid::Refresh() {
+    if (!redraw_)
+        return;
     viewport()->repaint();
     horizontalHeader()->viewport()->repaint();
 }
@@ -161,6 +176,11 @@ bool Grid::eventFilter(QObject* watched, QEvent* event) {
     if (watched != horizontalHeader()->viewport())
         return QTableView::eventFilter(watched, event);
     switch (event->type()) {
+        case QEvent::Paint:
+            if (redraw_)
+                return false;
+            QPainter(horizontalHeader()->viewport()).drawPixmap(0, 0, frozenHeader_);
+            return true;
         case QEvent::MouseButtonPress:
             tellPress(static_cast<QMouseEvent&>(*event));
             return true;

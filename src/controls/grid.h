@@ -1,6 +1,7 @@
 // A grid on the screen: rows of cells below a header that stays.
 #pragma once
 
+#include <QPixmap>
 #include <QScopeGuard>
 #include <QScopedValueRollback>
 #include <QTableView>
@@ -33,7 +34,7 @@ class Grid final : public QTableView {
         model_.change(steps);
     }
 
-    // While it is off, no cell is painted.
+    // While it is off, the grid shows the picture of the moment when it was put off.
     bool Redraw() const { return redraw_; }
     void setRedraw(bool redraw);
 
@@ -59,6 +60,7 @@ class Grid final : public QTableView {
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -96,6 +98,8 @@ class Grid final : public QTableView {
 
     GridModel model_;
     bool redraw_ = true;
+    QPixmap frozenCells_;  // what is shown while redraw_ is off
+    QPixmap frozenHeader_;
     bool changing_ = false;  // by code; what the view says meanwhile is no act of the user
     QPoint mouse_;           // in pixels
     std::optional<int> dragged_;

@@ -19,6 +19,12 @@ std::size_t checked(int index, std::size_t count) {
     return static_cast<std::size_t>(index);
 }
 
+std::size_t checkedCount(int count, int least = 0) {
+    if (count < least)
+        throw RuntimeError(ErrorNumber::InvalidPropertyArrayIndex);
+    return static_cast<std::size_t>(count);
+}
+
 }  // namespace
 
 std::size_t GridCells::checkedRow(int row) const {
@@ -59,16 +65,17 @@ void GridCells::Clear() {
 }
 
 void GridCells::setCols(int columns) {
+    const std::size_t count = checkedCount(columns);
     if (columns == Cols())
         return;
     std::vector<Cell> cells;
-    cells.reserve(rows_.size() * static_cast<std::size_t>(columns));
+    cells.reserve(rows_.size() * count);
     for (int row = 0; row < Rows(); ++row) {
         for (int column = 0; column < columns; ++column)
             cells.push_back(column < Cols() ? std::move(cells_[indexOf(row, column)]) : Cell());
     }
     cells_ = std::move(cells);
-    columns_.resize(static_cast<std::size_t>(columns));
+    columns_.resize(count);
     for (std::size_t column = 0; column < columns_.size(); ++column)
         columns_[column].stored = column;
     numberRows(rows_.size());
@@ -76,6 +83,7 @@ void GridCells::setCols(int columns) {
 }
 
 void GridCells::setRows(int rows) {
+    checkedCount(rows);
     while (Rows() > rows)
         RemoveItem(Rows() - 1);
     while (Rows() < rows)
@@ -119,6 +127,11 @@ void GridCells::keepSelectionInside() {
         *row = std::clamp(*row, 0, std::max(Rows() - 1, 0));
     for (int* column : {&col_, &colSel_})
         *column = std::clamp(*column, 0, std::max(Cols() - 1, 0));
+}
+
+void GridCells::setFixedRows(int rows) {
+    checkedCount(rows, 1);
+    fixedRows_ = rows;
 }
 
 void GridCells::setTextMatrix(int row, int column, const QString& text) {

@@ -23,7 +23,8 @@ enum class RowOrder { GenericAscending = 1, NumericDescending = 4 };
 enum class FillStyle { Single = 0, Repeat = 1 };
 
 // Rows and columns count from 0; the first FixedRows rows are the header. Every operation that is
-// given a row or a column raises 381 if there is no such one.
+// given a row or a column raises 381 if there is no such one, and one that is given how many there
+// are to be if that is less than none.
 //
 // The selection reaches from the current cell, Row and Col, to RowSel and ColSel. Naming a row
 // makes it the only one that is selected, and so does naming a column; RowSel and ColSel widen it
@@ -55,9 +56,9 @@ class GridCells {
     // Takes a row away. Where it was the last and current, the one before it is current then.
     void RemoveItem(int row);
 
-    // How many rows the header has: 1 at the beginning, and never less.
+    // How many rows the header has: 1 at the beginning. Raises 381 for less.
     int FixedRows() const { return fixedRows_; }
-    void setFixedRows(int rows) { fixedRows_ = rows; }
+    void setFixedRows(int rows);
 
     // None: every column scrolls.
     static constexpr int FixedCols() { return 0; }

@@ -53,7 +53,7 @@ void addFavourite() {
     const ListBox& people = *mainControls().lstMain;
     if (people.ListIndex() == -1)
         return;
-    writeFavourite({people.ItemData(people.ListIndex()), people.Text()});
+    writeFavourite({chosenNameId(), people.Text()});
     FillFavouritesMenu();
 }
 

@@ -139,8 +139,7 @@ void frmMain::chartSelectedPerson() {
     if (ui_->lstMain->ListIndex() == -1)
         return;
     Connection connection = openPersonDatabase();
-    const Long nameId = ui_->lstMain->ItemData(ui_->lstMain->ListIndex());
-    const Recordset person(connection, statements::person(nameId));
+    const Recordset person(connection, statements::person(chosenNameId()));
     chartBirthdate(person.Fields(u"birthdate").toDate(), modCycles::chartTitle(fullName(person)));
 }
 

@@ -3,6 +3,8 @@
 
 #include <QtGlobal>
 
+#include "controls/list_box.h"
+
 namespace {
 
 const MainControls* inForce = nullptr;
@@ -12,6 +14,11 @@ const MainControls* inForce = nullptr;
 const MainControls& mainControls() {
     Q_ASSERT(inForce);
     return *inForce;
+}
+
+Long chosenNameId() {
+    const ListBox& people = *mainControls().lstMain;
+    return people.ItemData(people.ListIndex());
 }
 
 void setMainControls(const MainControls* controls) {

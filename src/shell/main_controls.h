@@ -1,6 +1,8 @@
 // The main window's controls that are the application's shared state.
 #pragma once
 
+#include "cycles/integers.h"
+
 class ButtonMenu;
 class Chart;
 class ComboBox;
@@ -28,6 +30,9 @@ struct MainControls {
 
 // The controls of the main window there is. There must be one.
 const MainControls& mainControls();
+
+// The NameID of the person who is chosen in the main window. Raises 381 if nobody is.
+Long chosenNameId();
 
 // For the main window alone: the controls in force, or nullptr when it goes.
 void setMainControls(const MainControls* controls);

@@ -1,8 +1,10 @@
 // The comparison with others, driven as its user does.
 #pragma once
 
+#include <QAbstractButton>
 #include <QLabel>
 #include <QRadioButton>
+#include <memory>
 
 #include "analyses/birthdate_match.h"
 #include "analyses/frmCompat.h"
@@ -12,6 +14,7 @@
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
 #include "controls/progress_bar.h"
+#include "cycles/calendar.h"
 #include "runtime/event.h"
 #include "shell/frmMain.h"
 #include "support/main_window.h"
@@ -65,8 +68,7 @@ class CompatTest : public MainWindowTest {
     }
 
     void clickTab(int item) {
-        of<ButtonBar>("bbCompat").setChosenItem(item);
-        Q_EMIT of<ButtonBar>("bbCompat").Click(1, item);
+        click(child<QAbstractButton>(*form_, QStringLiteral("bbCompat_%1").arg(item)));
     }
 
     void clickOption(const char* name) { click(of<QRadioButton>(name), {8, 8}); }

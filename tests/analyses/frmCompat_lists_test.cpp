@@ -153,6 +153,15 @@ TEST_F(Others, AreEverybodyAgainAfterAChangeOfTheTab) {
     EXPECT_EQ(listed(), QStringList({kBen, kZed}));
 }
 
+TEST_F(Others, AreEverybodyInBarsAgainWhenTheTabThatIsShownIsPressed) {
+    open();
+    clickOption("optBio");
+    filter().setText(QStringLiteral("Family"));
+    clickTab(1);
+    EXPECT_EQ(filter().ListIndex(), 0);
+    EXPECT_TRUE(bars().isVisible());
+}
+
 TEST_F(Others, AreFilteredOnTheSecondTabToo) {
     open();
     clickTab(2);
@@ -177,10 +186,24 @@ TEST_F(Others, HideWithTheComparisonOnTheSecondTab) {
     EXPECT_EQ(textOf("Label1"), QStringLiteral("Apply filter:"));
 }
 
+TEST_F(Others, LeaveTheWindowAsLargeAsItIsThroughTabsAndCharts) {
+    open();
+    const QSize size = form_->size();
+    for (const int tab : {2, 1, 2, 1}) {
+        clickTab(tab);
+        EXPECT_EQ(form_->size(), size) << tab;
+    }
+    for (const char* option : {"optBio", "optBar", "optBio"}) {
+        clickOption(option);
+        EXPECT_EQ(form_->size(), size) << option;
+    }
+}
+
 TEST_F(Others, AreShownInBarsWhenTheirTabComesBack) {
     open();
     clickOption("optBio");
     clickTab(2);
+    EXPECT_TRUE(of<QRadioButton>("optBio").isChecked());
     EXPECT_FALSE(bars().isVisible());
     clickTab(1);
     EXPECT_TRUE(bars().isVisible());
@@ -210,6 +233,7 @@ TEST_F(Others, WhoAreFavouritesDropDownFromTheToolbar) {
     ASSERT_TRUE(button);
     EXPECT_EQ(button->menu(), &faves());
     EXPECT_EQ(button->popupMode(), QToolButton::InstantPopup);
+    EXPECT_EQ(button->focusPolicy(), Qt::TabFocus);
 }
 
 TEST_F(Others, WhoAreFavouritesAreComparedFromWhateverCategory) {

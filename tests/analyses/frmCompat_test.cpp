@@ -14,7 +14,9 @@
 #include "records/frmZoom.h"
 #include "shell/frmWait.h"
 #include "shell/handover.h"
+#include "store/databases.h"
 #include "store/favourites.h"
+#include "store/statements.h"
 #include "support/errors.h"
 #include "support/next_form.h"
 
@@ -83,6 +85,12 @@ TEST_F(Comparison, GivesItsLabelsTheColoursOfTheCycles) {
         expectColour(label, 0x800080);
 }
 
+TEST_F(Comparison, FillsTheThermometerInTheColourOfTheAverage) {
+    open();
+    EXPECT_EQ(of<ProgressBar>("pgbAverage").palette().color(QPalette::Highlight),
+              cycleColour(CycleColour::Average, form_->palette()));
+}
+
 TEST_F(Comparison, ComparesWithTheRowThatIsClicked) {
     open();
     clickRow(1);
@@ -136,6 +144,20 @@ TEST_F(Comparison, ShowsTheCyclesOfBothFromTheDateOfTheMainWindow) {
     EXPECT_EQ(lines().Data(31, 1), modCycles::CalcCycle(days, 30, "emot"));
     EXPECT_EQ(lines().ToolTipText(), QStringLiteral("Solid: Anna Smith     Dotted: Ben Adler"));
     EXPECT_FALSE(lines().ShowLegend());
+}
+
+TEST_F(Comparison, LeavesRoomForTheTextsAroundBothCharts) {
+    open();
+    clickOption("optBio");
+    for (Chart* chart : {&bars(), &lines()}) {
+        const ChartContent& content = chart->content();
+        EXPECT_EQ(content.fontFamily, QStringLiteral("Arial"));
+        EXPECT_GT(content.plotArea.left(), 0);
+        EXPECT_GT(content.plotArea.top(), 0);
+        EXPECT_LT(content.plotArea.right(), content.size.width());
+        EXPECT_LT(content.plotArea.bottom(), content.size.height());
+        EXPECT_GT(content.plotArea.width(), content.size.width() / 2);
+    }
 }
 
 TEST_F(Comparison, DrawsTheMainPersonSolidAndTheOtherDottedInTheSameColours) {
@@ -253,6 +275,7 @@ TEST_F(Comparison, SkipsTheRestOfItsLoadForAPersonWhoIsAlone) {
     EXPECT_TRUE(form_->isVisible());
     EXPECT_EQ(listed(), QStringList());
     EXPECT_EQ(filter().ListCount(), 3);
+    EXPECT_EQ(filter().ListIndex(), 0);
     EXPECT_EQ(favourites(), QStringList());
     EXPECT_FALSE(of<QWidget>("cmdSearch").isVisible());
     EXPECT_TRUE(isWaiting());
@@ -269,6 +292,21 @@ TEST_F(Comparison, ReportsAMainPersonWhoIsGone) {
     EXPECT_EQ(listed(), QStringList());
     EXPECT_EQ(form_->windowTitle(), QString());
     EXPECT_FALSE(of<QWidget>("cmdSearch").isVisible());
+}
+
+TEST_F(Comparison, EndsTheProgramAtATabWhereItsLoadFailedBeforeTheFilter) {
+    loadAndChoose(kAnna);
+    runSql(directory_.people(), QStringLiteral("DROP TABLE Category"));
+    expectReport(descriptionOf([] {
+        Connection connection = openPersonDatabase();
+        const Recordset categories(connection, statements::categories());
+    }));
+    openForChosen();
+    EXPECT_EQ(listed(), QStringList({kBen, kZed}));
+    host_.expectMessage(QStringLiteral("Run-time error '380':\n\nInvalid property value"));
+    clickTab(2);
+    EXPECT_EQ(host_.exitCode(), 1);
+    host_.forgetExit();
 }
 
 TEST_F(Comparison, GoesAtItsButtonAndReadsEverybodyAnewWhenItIsOpenedAgain) {

@@ -6,7 +6,10 @@
 #include <QLabel>
 #include <QRadioButton>
 #include <QSignalSpy>
+#include <QTest>
+#include <algorithm>
 
+#include "analyses/compared_person.h"
 #include "controls/combo_box.h"
 #include "controls/grid.h"
 #include "controls/picture_button.h"
@@ -17,13 +20,17 @@
 #include "store/statements.h"
 #include "support/errors.h"
 #include "support/main_window.h"
+#include "support/paint_counter.h"
 #include "support/printing.h"
 
 using modCycles::DateSerial;
 
 namespace {
 
-const MatchPerson kSmith{.nameId = 1, .birthdate = DateSerial(1972, 10, 20)};
+const ComparedPerson kSmith{.nameId = 1,
+                            .name = QStringLiteral("Smith"),
+                            .firstName = QStringLiteral("Anna"),
+                            .birthdate = DateSerial(1972, 10, 20)};
 
 // Smith is Family, Adler and Zed are Friends, all of them male.
 class MatchPage : public MainWindowTest {
@@ -63,6 +70,8 @@ class MatchPage : public MainWindowTest {
     void expectFrozenAfter(const QString& message) {
         EXPECT_EQ(host_.messages().back().text, message);
         EXPECT_EQ(host_.messages().back().owner, &page_);
+        EXPECT_EQ(host_.messages().back().title, QString());
+        EXPECT_EQ(host_.messages().back().icon, MessageIcon::None);
         EXPECT_FALSE(grid().Redraw());
     }
 
@@ -191,6 +200,24 @@ TEST_F(MatchPage, TakesMalesForAFemalePersonToo) {
     choose("optMale");
     search();
     EXPECT_EQ(names().size(), 3);
+}
+
+// Once on the screen, and once for the picture that stays there.
+TEST_F(MatchPage, IsPaintedEmptyBeforeASearchFreezesIt) {
+    search();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&page_));
+    const PaintCounter cells(*grid().viewport());
+    choose("optFemale");
+    host_.expectMessage(QStringLiteral("There are no female records in the database."));
+    search();
+    EXPECT_EQ(cells.painted(), 2);
+}
+
+TEST_F(MatchPage, IsPaintedAtOnceWhenItGetsItsColumns) {
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&page_));
+    const PaintCounter cells(*grid().viewport());
+    page_.SetGrid();
+    EXPECT_EQ(cells.painted(), 1);
 }
 
 TEST_F(MatchPage, IsPaintedAgainAfterTheNextSearchThatSucceeds) {

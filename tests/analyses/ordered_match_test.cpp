@@ -5,6 +5,7 @@
 
 #include <QStringList>
 
+#include "analyses/compared_person.h"
 #include "cycles/calendar.h"
 #include "store/databases.h"
 #include "store/recordset.h"
@@ -48,7 +49,8 @@ class OrderedMatch : public testing::Test {
         Connection connection = openPersonDatabase();
         Recordset people(connection, statements::allPeopleWithNotes());
         clearMatches(cells_);
-        addMatches(cells_, people, {.nameId = nameId, .birthdate = kBirthdate});
+        addMatches(cells_, people,
+                   {.nameId = nameId, .name = {}, .firstName = {}, .birthdate = kBirthdate});
         EXPECT_TRUE(people.EndOfFile());
     }
 

@@ -327,6 +327,18 @@ TEST_F(GridCellsTest, GetAsManyColumnsAsAreNamed) {
     EXPECT_EQ(cells_.Col(), 0);
 }
 
+TEST_F(GridCellsTest, AreNeverFewerThanNone) {
+    EXPECT_EQ(errorOf([&] { cells_.setRows(-1); }), 381);
+    EXPECT_EQ(errorOf([&] { cells_.setCols(-1); }), 381);
+    EXPECT_EQ(errorOf([&] { cells_.setFixedRows(0); }), 381);
+    EXPECT_EQ(column(0), QStringLiteral("Name|Zed|abe|Zed"));
+    EXPECT_EQ(cells_.FixedRows(), 1);
+    cells_.setCols(0);
+    cells_.setRows(0);
+    EXPECT_EQ(cells_.Cols(), 0);
+    EXPECT_EQ(cells_.Rows(), 0);
+}
+
 TEST_F(GridCellsTest, CanBeMadeOfNothing) {
     GridCells cells;
     cells.setRows(2);

@@ -10,6 +10,7 @@
 #include "controls/twips.h"
 #include "support/errors.h"
 #include "support/event_counter.h"
+#include "support/paint_counter.h"
 #include "support/printing.h"
 #include "support/recording_host.h"
 #include "support/widget_driver.h"
@@ -332,17 +333,55 @@ TEST_F(GridTest, ShowsByThePointerWhereADropIsInVain) {
     EXPECT_EQ(shape(), atRest);
 }
 
-TEST_F(GridTest, PaintsNothingWhileRedrawIsOff) {
+TEST_F(GridTest, KeepsItsPictureWhileRedrawIsOff) {
+    const auto cellPicture = [this] { return cellView().grab().toImage(); };
+    const auto headerPicture = [this] { return headerView().grab().toImage(); };
     EXPECT_TRUE(grid_.Redraw());
-    grid_.setRedraw(false);
-    EXPECT_FALSE(grid_.Redraw());
-    EXPECT_FALSE(cellView().updatesEnabled());
-    EXPECT_FALSE(headerView().updatesEnabled());
-    grid_.change([](GridCells& cells) { cells.setTextMatrix(1, 0, QStringLiteral("Ada")); });
+    const QImage cellsBefore = cellPicture();
+    const QImage headerBefore = headerPicture();
+    for (int freeze = 0; freeze < 2; ++freeze) {
+        grid_.setRedraw(false);
+        EXPECT_FALSE(grid_.Redraw());
+        grid_.change([](GridCells& cells) {
+            cells.setTextMatrix(0, 0, QStringLiteral("Who"));
+            cells.setTextMatrix(1, 0, QStringLiteral("Ada"));
+        });
+        EXPECT_EQ(cellPicture(), cellsBefore);
+        EXPECT_EQ(headerPicture(), headerBefore);
+    }
     grid_.setRedraw(true);
-    EXPECT_TRUE(cellView().updatesEnabled());
-    EXPECT_TRUE(headerView().updatesEnabled());
-    EXPECT_EQ(grid_.model()->index(0, 0).data().toString(), QStringLiteral("Ada"));
+    EXPECT_NE(cellPicture(), cellsBefore);
+    EXPECT_NE(headerPicture(), headerBefore);
+}
+
+TEST_F(GridTest, IsPaintedAnewWhenRedrawIsOnAgain) {
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&grid_));
+    grid_.setRedraw(false);
+    const PaintCounter cells(cellView());
+    const PaintCounter header(headerView());
+    grid_.setRedraw(true);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(cells.painted(), 1);
+    EXPECT_EQ(header.painted(), 1);
+}
+
+TEST_F(GridTest, IsPaintedAtOnceByARefresh) {
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&grid_));
+    const PaintCounter cells(cellView());
+    const PaintCounter header(headerView());
+    grid_.Refresh();
+    EXPECT_EQ(cells.painted(), 1);
+    EXPECT_EQ(header.painted(), 1);
+}
+
+TEST_F(GridTest, IsPaintedByNoRefreshWhileRedrawIsOff) {
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&grid_));
+    grid_.setRedraw(false);
+    const PaintCounter cells(cellView());
+    const PaintCounter header(headerView());
+    grid_.Refresh();
+    EXPECT_EQ(cells.painted(), 0);
+    EXPECT_EQ(header.painted(), 0);
 }
 
 TEST_F(GridTest, PaintsTheBackgroundsOfItsCells) {

@@ -24,6 +24,11 @@ TEST(ProgressBar, IsFilledByTheShareOfItsValue) {
     }
 }
 
+TEST(ProgressBar, ShowsNoFigure) {
+    const ProgressBar bar;
+    EXPECT_FALSE(bar.isTextVisible());
+}
+
 TEST(ProgressBar, RaisesAnErrorForWhatIsNoPercentage) {
     ProgressBar bar;
     bar.setValue(40);

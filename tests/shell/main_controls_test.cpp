@@ -4,6 +4,7 @@
 #include "controls/list_box.h"
 #include "controls/month_view.h"
 #include "shell/frmMain.h"
+#include "support/errors.h"
 #include "support/main_window.h"
 
 namespace {
@@ -15,6 +16,13 @@ TEST_F(MainControlsTest, AreThoseOfTheMainWindow) {
     EXPECT_EQ(mainControls().lstMain, &control<ListBox>("lstMain"));
     EXPECT_EQ(mainControls().dtpSelDate, &control<MonthView>("dtpSelDate"));
     EXPECT_EQ(mainControls().listCats, &control<ListBox>("listCats"));
+}
+
+TEST_F(MainControlsTest, TellWhoIsChosen) {
+    loadAndChoose(QStringLiteral("Zed"));
+    EXPECT_EQ(chosenNameId(), 3);
+    control<ListBox>("lstMain").setListIndex(-1);
+    EXPECT_EQ(errorOf([] { (void)chosenNameId(); }), 381);
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 
 #include <type_traits>
 
-#include "controls/list_box.h"
 #include "shell/frmMain.h"
 #include "shell/handover.h"
 #include "shell/main_controls.h"
@@ -31,8 +30,7 @@ class EveryForm : public MainWindowTest {
 
     EveryForm() {
         frmMain& main = loadAndChoose(QStringLiteral("Smith, Anna"));
-        modCycles::SelectedNameID =
-            mainControls().lstMain->ItemData(mainControls().lstMain->ListIndex());
+        modCycles::SelectedNameID = chosenNameId();
         if constexpr (std::is_same_v<Shown, frmMain>) {
             form_ = &main;
         } else {

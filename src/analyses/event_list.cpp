@@ -32,12 +32,25 @@ QLatin1String wordOf(Integer kind) {
     return kind == kLowKind ? kLow : kCritical;
 }
 
+QString pictureKey(const FoundEvent& event) {
+    return QStringLiteral("event-") + QString(event.smallIcon).toLower();
+}
+
 QString dateText(const FoundEvent& event) {
     return event.date ? Format(*event.date, QStringLiteral("ddd, d mmmm yyyy"))
                       : QStringLiteral("None found");
 }
 
 }  // namespace
+
+QString searchStatus() {
+    return QStringLiteral("Searching. Press Esc to cancel...");
+}
+
+QString searchStatus(const SearchedCycle& cycle) {
+    return QStringLiteral("Searching ") + cycle.name +
+           QStringLiteral(" cycle. Press Esc to cancel...");
+}
 
 std::vector<FoundEvent> doubleEvents(const EventHits& hits, Date start) {
     if (!hasResults(hits.DoubleHits.size()))
@@ -57,21 +70,26 @@ std::vector<FoundEvent> tripleEvents(const EventHits& hits, Date start, Integer 
     return events;
 }
 
-std::vector<FoundEvent> cycleEvents(const std::vector<HitRow>& hits, Date start,
-                                    QLatin1String smallIcon, const EventKinds& kinds) {
-    if (!hasResults(hits.size()))
+std::vector<FoundEvent> cycleEvents(const EventHits& hits, const SearchedCycle& cycle, Date start,
+                                    const EventKinds& kinds) {
+    const std::vector<HitRow>& rows = hits.*cycle.hits;
+    if (!hasResults(rows.size()))
         return {{.smallIcon = kNone}};
     const std::array<std::pair<bool, QLatin1String>, 3> inOrder{
         {{kinds.peak, kPeak}, {kinds.low, kLow}, {kinds.critical, kCritical}}};
     std::vector<FoundEvent> events;
     for (const auto& [isAsked, word] : inOrder) {
-        for (auto hit = hits.begin() + 1; isAsked && hit != hits.end(); ++hit) {
+        for (auto hit = rows.begin() + 1; isAsked && hit != rows.end(); ++hit) {
             if (hit->word == word)
                 events.push_back(
-                    {.smallIcon = smallIcon, .date = dateOf(*hit, start), .word = word});
+                    {.smallIcon = cycle.smallIcon, .date = dateOf(*hit, start), .word = word});
         }
     }
     return events;
+}
+
+bool areDays(const std::vector<FoundEvent>& events) {
+    return !events.empty() && events.front().date;
 }
 
 std::vector<ListColumn> sharedColumns() {
@@ -85,9 +103,9 @@ std::vector<ListColumn> cycleColumns() {
 }
 
 ListRow sharedRow(const FoundEvent& event) {
-    return {.smallIcon = event.smallIcon, .texts = {dateText(event)}};
+    return {.smallIcon = pictureKey(event), .texts = {dateText(event)}};
 }
 
 ListRow cycleRow(const FoundEvent& event) {
-    return {.smallIcon = event.smallIcon, .texts = {QString(), dateText(event), event.word}};
+    return {.smallIcon = pictureKey(event), .texts = {QString(), dateText(event), event.word}};
 }

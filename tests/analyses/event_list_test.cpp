@@ -10,7 +10,6 @@ using modCycles::DateSerial;
 
 namespace {
 
-constexpr QLatin1String kEmot("Emot");
 constexpr EventKinds kAll{.peak = true, .low = true, .critical = true};
 const Date kStart = DateSerial(2001, 3, 4);
 const FoundEvent kNoneFound{.smallIcon = QLatin1String("None")};
@@ -50,14 +49,14 @@ class CycleEvents : public testing::Test {
                                            {"14", kCritical},
                                            {"21", kLow},
                                            {"35", kPeak}})
-            hits_.push_back({offset, word});
+            hits_.EmotHits.push_back({offset, word});
     }
 
     std::vector<FoundEvent> events(const EventKinds& kinds) const {
-        return cycleEvents(hits_, kStart, kEmot, kinds);
+        return cycleEvents(hits_, kEmotionalSearch, kStart, kinds);
     }
 
-    std::vector<HitRow> hits_ = std::vector<HitRow>(1);
+    EventHits hits_;
 };
 
 TEST_F(CycleEvents, AreGroupedAsPeaksLowsAndCriticalDays) {
@@ -76,14 +75,38 @@ TEST_F(CycleEvents, AreThoseOfTheKindsThatAreAskedFor) {
 }
 
 TEST_F(CycleEvents, AreNoLineAtAllWhereTheCycleHasOnlyDaysOfOtherKinds) {
-    hits_.resize(2);
+    hits_.EmotHits.resize(2);
     EXPECT_EQ(events({.peak = true, .low = true, .critical = false}), std::vector<FoundEvent>());
 }
 
 TEST_F(CycleEvents, AreOneLineWithoutADateWhereTheCycleHasNone) {
-    hits_.resize(1);
+    hits_.EmotHits.resize(1);
     EXPECT_EQ(events(kAll), std::vector{kNoneFound});
     EXPECT_EQ(events({.peak = false, .low = false, .critical = false}), std::vector{kNoneFound});
+}
+
+TEST_F(CycleEvents, AreThoseOfTheCycleThatIsNamed) {
+    hits_.PhysHits.push_back({"3", kLow});
+    hits_.IntelHits.push_back({"4", kLow});
+    EXPECT_EQ(cycleEvents(hits_, kPhysicalSearch, kStart, kAll), std::vector{on(3, "Phys", kLow)});
+    EXPECT_EQ(cycleEvents(hits_, kIntellectualSearch, kStart, kAll),
+              std::vector{on(4, "Intel", kLow)});
+}
+
+TEST(AreDays, TellsDaysFromTheLineForNone) {
+    EXPECT_TRUE(areDays({on(0, "EP")}));
+    EXPECT_FALSE(areDays({kNoneFound}));
+    EXPECT_FALSE(areDays({}));
+}
+
+TEST(SearchStatus, NamesTheCycleThatIsSearchedByItself) {
+    EXPECT_EQ(searchStatus(), QStringLiteral("Searching. Press Esc to cancel..."));
+    EXPECT_EQ(searchStatus(kEmotionalSearch),
+              QStringLiteral("Searching emotional cycle. Press Esc to cancel..."));
+    EXPECT_EQ(searchStatus(kPhysicalSearch),
+              QStringLiteral("Searching physical cycle. Press Esc to cancel..."));
+    EXPECT_EQ(searchStatus(kIntellectualSearch),
+              QStringLiteral("Searching intellectual cycle. Press Esc to cancel..."));
 }
 
 TEST(SharedRow, IsTheDateInOneColumn) {
@@ -94,10 +117,10 @@ TEST(SharedRow, IsTheDateInOneColumn) {
     EXPECT_EQ(columns[0].width, 3500);
     EXPECT_EQ(columns[0].alignment, Qt::AlignLeft);
     const ListRow row = sharedRow(on(0, "EP"));
-    EXPECT_EQ(row.smallIcon, QStringLiteral("EP"));
+    EXPECT_EQ(row.smallIcon, QStringLiteral("event-ep"));
     EXPECT_EQ(row.texts, QStringList{QStringLiteral("Sun, 4 March 2001")});
     EXPECT_EQ(sharedRow(kNoneFound).texts, QStringList{QStringLiteral("None found")});
-    EXPECT_EQ(sharedRow(kNoneFound).smallIcon, QStringLiteral("None"));
+    EXPECT_EQ(sharedRow(kNoneFound).smallIcon, QStringLiteral("event-none"));
 }
 
 TEST(CycleRow, IsThePictureTheDateAndTheKind) {
@@ -113,7 +136,7 @@ TEST(CycleRow, IsThePictureTheDateAndTheKind) {
     EXPECT_EQ(columns[2].width, 800);
     EXPECT_EQ(columns[2].alignment, Qt::AlignHCenter);
     const ListRow row = cycleRow(on(3, "Emot", kPeak));
-    EXPECT_EQ(row.smallIcon, QStringLiteral("Emot"));
+    EXPECT_EQ(row.smallIcon, QStringLiteral("event-emot"));
     EXPECT_EQ(row.texts, (QStringList{QString(), QStringLiteral("Wed, 7 March 2001"), kPeak}));
     EXPECT_EQ(cycleRow(kNoneFound).texts,
               (QStringList{QString(), QStringLiteral("None found"), QString()}));

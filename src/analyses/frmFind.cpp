@@ -22,6 +22,8 @@ namespace {
 constexpr int kDouble = 0;  // the entry of cbTriple; the other is for three cycles
 
 constexpr int kProgressWidth = 160;  // pixels
+constexpr int kSpaceAtEdge = 4;
+constexpr int kSpaceBetweenPanels = 12;
 
 // Ticks all boxes where the button offers that, else none; then it offers the other.
 void toggleAll(QPushButton& button, std::initializer_list<QCheckBox*> boxes) {
@@ -57,6 +59,7 @@ frmFind::~frmFind() = default;
 void frmFind::setUpStatusBar() {
     auto* status = new QLabel(QStringLiteral("Ready"), this);
     status->setObjectName(QStringLiteral("sbFind_Status"));
+    status->setContentsMargins(kSpaceAtEdge, 0, kSpaceBetweenPanels, 0);
     user_ = new ElidedLabel(this);
     user_->setObjectName(QStringLiteral("sbFind_User"));
     pbFind_ = new ProgressBar(this);

@@ -6,6 +6,7 @@
 #include "analyses/frmBirthdayToday.h"
 #include "analyses/frmCompat.h"
 #include "analyses/frmCritical.h"
+#include "analyses/frmFind.h"
 #include "analyses/frmQuick.h"
 #include "controls/button_menu.h"
 #include "controls/combo_box.h"
@@ -85,7 +86,8 @@ void Commands::mnuQuickMatch_Click() {
 }
 
 void Commands::mnuFind_Click() {
-    isPersonChosen(needOfAPerson());
+    if (isPersonChosen(needOfAPerson()))
+        frmFind(&window_).ShowModal();
 }
 
 void Commands::mnuReport_Click() {

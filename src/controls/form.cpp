@@ -6,6 +6,7 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <algorithm>
 
 #include "runtime/event.h"
@@ -38,6 +39,7 @@ void Form::Load() {
     if (loaded_)
         return;
     loaded_ = true;
+    closing_ = false;
     loadedForms.push_back(this);
     setUpButtons(*this);
     qApp->installEventFilter(this);
@@ -96,9 +98,28 @@ bool Form::eventFilter(QObject* watched, QEvent* event) {
     return wasUsed;
 }
 
+void Form::work(const std::function<void()>& steps) {
+    {
+        const QScopedValueRollback atWork(atWork_, true);
+        steps();
+    }
+    if (closing_)
+        Unload();
+}
+
 void Form::closeEvent(QCloseEvent* event) {
-    runEvent([this] { Unload(); });
-    event->accept();
+    event->setAccepted(!atWork_);
+    runEvent([this] {
+        if (atWork_)
+            closeAfterWork();
+        else
+            Unload();
+    });
+}
+
+void Form::closeAfterWork() {
+    closing_ = true;
+    Form_Cancel();
 }
 
 bool takeEsc(QKeyEvent& key) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 #include <vector>
 
 class QKeyEvent;
@@ -10,6 +11,9 @@ class QKeyEvent;
 // Form_KeyDown before the control that has the focus. Esc closes nothing by itself, and Enter
 // presses nothing but a button that has the focus. A button that is pressed takes the focus first,
 // so that whichever control had it has heard that it lost it.
+//
+// Work of many steps may yield between them, so that the window stays alive. A window that is
+// closed then is unloaded when the work has ended, which it is asked to do.
 //
 // Whoever makes a form owns it: a command makes one on the stack, shows it modally, and it is freed
 // on return. A run-time error in Form_Load or Form_Unload goes to whoever loads or unloads.
@@ -51,13 +55,26 @@ class Form : public QWidget {
     // A key pressed anywhere in the form. It goes on to the control unless it is accepted here.
     virtual void Form_KeyDown(QKeyEvent&) {}
 
+    // The window was closed during work, which is to end as soon as it can.
+    virtual void Form_Cancel() {}
+
+    // Does work that yields.
+    void work(const std::function<void()>& steps);
+    bool isAtWork() const { return atWork_; }
+
+    // Whether the form is to be unloaded after the work.
+    bool isClosing() const { return closing_; }
+
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
   private:
     bool seesFirst(QObject* receiver) const;
+    void closeAfterWork();
 
     bool loaded_ = false;
+    bool atWork_ = false;
+    bool closing_ = false;
 };
 
 // Whether the key is Esc, for Form_KeyDown. It is used up then.

@@ -90,13 +90,14 @@ void GridCells::setRows(int rows) {
         rows_.push_back(emptyRow());
 }
 
-void GridCells::AddItem(QStringView texts) {
-    rows_.push_back(emptyRow());
+void GridCells::AddItem(QStringView texts, int place) {
+    const std::size_t rowsBefore = checked(place, rows_.size() + 1);
+    rows_.insert(rows_.begin() + static_cast<std::ptrdiff_t>(rowsBefore), emptyRow());
     int column = 0;
     for (const QStringView text : qTokenize(texts, u'\t')) {
         if (column == Cols())
             return;
-        setTextMatrix(Rows() - 1, column++, text.toString());
+        setTextMatrix(place, column++, text.toString());
     }
 }
 

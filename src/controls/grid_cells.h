@@ -50,8 +50,10 @@ class GridCells {
     int Rows() const { return static_cast<int>(rows_.size()); }
     void setRows(int rows);
 
-    // Adds a row at the end, with a text divided by tabs; cells beyond the last column are dropped.
-    void AddItem(QStringView texts);
+    // Adds a row, with a text divided by tabs, at the end or in a place of its own; the rows from
+    // there on move down. Cells beyond the last column are dropped.
+    void AddItem(QStringView texts) { AddItem(texts, Rows()); }
+    void AddItem(QStringView texts, int place);
 
     // Takes a row away. Where it was the last and current, the one before it is current then.
     void RemoveItem(int row);

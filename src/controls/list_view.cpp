@@ -2,6 +2,7 @@
 #include "controls/list_view.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
 
@@ -61,6 +62,17 @@ ListView::ListView(QWidget* parent) : QTreeView(parent) {
         Q_EMIT ColumnClick(section + 1);
         showSorting();
     });
+    connect(this, &QTreeView::clicked, this,
+            [this](const QModelIndex& index) { Q_EMIT ItemClick(index.row()); });
+}
+
+// Qt's view would take a double click for Enter as well.
+void ListView::keyPressEvent(QKeyEvent* event) {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && currentIndex().isValid())
+        Q_EMIT ItemClick(currentIndex().row());
+    else
+        QTreeView::keyPressEvent(event);
 }
 
 void ListView::setColumns(std::vector<ListColumn> columns) {
@@ -74,9 +86,18 @@ void ListView::setColumns(std::vector<ListColumn> columns) {
     }
 }
 
-// A screen reader finds a row that is not selected.
 void ListView::fill(std::vector<ListRow> rows) {
     model_.fill(std::move(rows));
+    beginAtFirstRow();
+}
+
+void ListView::fill(int count, RowMaker makeRow) {
+    model_.fill(count, std::move(makeRow));
+    beginAtFirstRow();
+}
+
+// A screen reader finds a row that is not selected.
+void ListView::beginAtFirstRow() {
     selectionModel()->setCurrentIndex(model_.index(0, 0), QItemSelectionModel::NoUpdate);
 }
 

@@ -19,8 +19,10 @@ class ListView final : public QTreeView {
 
     void Clear() { fill({}); }
 
-    // Replaces all rows and takes the selection away.
+    // Replaces all rows and takes the selection away; rows that are made are made as they come into
+    // view.
     void fill(std::vector<ListRow> rows);
+    void fill(int count, RowMaker makeRow);
 
     void AddRow(ListRow row) { model_.add(std::move(row)); }
 
@@ -38,7 +40,14 @@ class ListView final : public QTreeView {
     // The header of a column was clicked; columns count from 1.
     void ColumnClick(int column);
 
+    // A row was clicked, or chosen by Enter; rows count from 0.
+    void ItemClick(int row);
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
   private:
+    void beginAtFirstRow();
     void setSorting(const ListSorting& sorting);
     void showSorting();
 

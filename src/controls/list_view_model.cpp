@@ -2,6 +2,7 @@
 #include "controls/list_view_model.h"
 
 #include <algorithm>
+#include <iterator>
 #include <numeric>
 #include <utility>
 
@@ -19,8 +20,8 @@ class RowOrder {
   public:
     explicit RowOrder(const ListSorting& sorting) : sorting_(sorting) {}
 
-    bool operator()(const ListRow& a, const ListRow& b) const {
-        const auto order = compareTexts(shownText(a, sorting_.key), shownText(b, sorting_.key));
+    bool operator()(const std::optional<ListRow>& a, const std::optional<ListRow>& b) const {
+        const auto order = compareTexts(shownText(*a, sorting_.key), shownText(*b, sorting_.key));
         return sorting_.order == ListSortOrder::Ascending ? order < 0 : order > 0;
     }
 
@@ -29,7 +30,8 @@ class RowOrder {
 };
 
 // The index of every row, in the order that they are to stand in.
-std::vector<std::size_t> indexesInOrder(const std::vector<ListRow>& rows, const RowOrder& order) {
+std::vector<std::size_t> indexesInOrder(const std::vector<std::optional<ListRow>>& rows,
+                                        const RowOrder& order) {
     std::vector<std::size_t> indexes(rows.size());
     std::iota(indexes.begin(), indexes.end(), std::size_t{0});
     std::stable_sort(indexes.begin(), indexes.end(),
@@ -55,8 +57,9 @@ void ListViewModel::setSorting(const ListSorting& sorting) {
 
 // What a view remembers of a row, its selection among it, stays with the row.
 void ListViewModel::sortRows() {
+    makeAllRows();
     Q_EMIT layoutAboutToBeChanged();
-    std::vector<ListRow> rows;
+    Rows rows;
     rows.reserve(rows_.size());
     std::vector<int> newIndexes(rows_.size());
     for (const std::size_t old : indexesInOrder(rows_, RowOrder(sorting_))) {
@@ -72,21 +75,46 @@ void ListViewModel::sortRows() {
 }
 
 void ListViewModel::fill(std::vector<ListRow> rows) {
+    replaceRows({std::make_move_iterator(rows.begin()), std::make_move_iterator(rows.end())}, {});
+}
+
+void ListViewModel::fill(int count, RowMaker makeRow) {
+    replaceRows(Rows(static_cast<std::size_t>(count)), std::move(makeRow));
+}
+
+void ListViewModel::replaceRows(Rows rows, RowMaker makeRow) {
     beginResetModel();
     rows_ = std::move(rows);
-    if (sorting_.isOn)
+    makeRow_ = std::move(makeRow);
+    if (sorting_.isOn) {
+        makeAllRows();
         std::stable_sort(rows_.begin(), rows_.end(), RowOrder(sorting_));
+    }
     endResetModel();
 }
 
 void ListViewModel::add(ListRow row) {
+    makeAllRows();
+    const std::optional<ListRow> added = std::move(row);
     const auto place = sorting_.isOn
-                           ? std::upper_bound(rows_.begin(), rows_.end(), row, RowOrder(sorting_))
+                           ? std::upper_bound(rows_.begin(), rows_.end(), added, RowOrder(sorting_))
                            : rows_.end();
     const int newIndex = static_cast<int>(place - rows_.begin());
     beginInsertRows({}, newIndex, newIndex);
-    rows_.insert(place, std::move(row));
+    rows_.insert(place, added);
     endInsertRows();
+}
+
+const ListRow& ListViewModel::rowAt(std::size_t index) const {
+    std::optional<ListRow>& row = rows_[index];
+    if (!row)
+        row = makeRow_(static_cast<int>(index));
+    return *row;
+}
+
+void ListViewModel::makeAllRows() {
+    for (std::size_t index = 0; index < rows_.size(); ++index)
+        rowAt(index);
 }
 
 int ListViewModel::rowCount(const QModelIndex& parent) const {
@@ -100,13 +128,15 @@ int ListViewModel::columnCount(const QModelIndex& parent) const {
 QVariant ListViewModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid())
         return {};
-    const ListRow& row = rows_[static_cast<std::size_t>(index.row())];
-    if (role == Qt::DisplayRole)
-        return shownText(row, index.column()).toString();
-    if (role == Qt::DecorationRole && index.column() == 0 && !row.smallIcon.isEmpty())
-        return smallPicture(row.smallIcon);
     if (role == Qt::TextAlignmentRole)
         return headerData(index.column(), Qt::Horizontal, role);
+    if (role != Qt::DisplayRole && role != Qt::DecorationRole)
+        return {};
+    const ListRow& row = rowAt(static_cast<std::size_t>(index.row()));
+    if (role == Qt::DisplayRole)
+        return shownText(row, index.column()).toString();
+    if (index.column() == 0 && !row.smallIcon.isEmpty())
+        return smallPicture(row.smallIcon);
     return {};
 }
 

@@ -4,6 +4,7 @@
 #include <QAbstractTableModel>
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -17,6 +18,9 @@ struct ListRow {
     QString smallIcon = {};  // the key of the picture before the first text; none if empty
     QStringList texts = {};  // from the first column on; those that are missing are empty
 };
+
+// Makes the row of an index.
+using RowMaker = std::function<ListRow(int)>;
 
 enum class ListSortOrder { Ascending = 0, Descending = 1 };
 
@@ -45,6 +49,10 @@ class ListViewModel final : public QAbstractTableModel {
     // Replaces all rows, in one reset.
     void fill(std::vector<ListRow> rows);
 
+    // The same with `count` rows, each made by its index when it is first looked at. Sorting looks
+    // at all of them, and so does adding one.
+    void fill(int count, RowMaker makeRow);
+
     // Adds a row: in its place while sorting is on, at the end otherwise.
     void add(ListRow row);
 
@@ -54,9 +62,15 @@ class ListViewModel final : public QAbstractTableModel {
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   private:
+    using Rows = std::vector<std::optional<ListRow>>;  // none: not looked at yet
+
+    void replaceRows(Rows rows, RowMaker makeRow);
     void sortRows();
+    const ListRow& rowAt(std::size_t index) const;
+    void makeAllRows();
 
     std::vector<ListColumn> columns_;
-    std::vector<ListRow> rows_;
+    mutable Rows rows_;
+    RowMaker makeRow_;
     ListSorting sorting_;
 };

@@ -2,6 +2,7 @@
 #include "analyses/frmBirthdayToday.h"
 #include "analyses/frmCompat.h"
 #include "analyses/frmCritical.h"
+#include "analyses/frmFind.h"
 #include "analyses/frmQuick.h"
 #include "support/every_form.h"
 
@@ -9,7 +10,8 @@ namespace {
 
 using Forms =
     testing::Types<Drawn<frmBirthdayToday, OnEscape::Closes>, Drawn<frmCompat, OnEscape::Closes>,
-                   Drawn<frmCritical, OnEscape::Closes>, Drawn<frmQuick, OnEscape::Closes>>;
+                   Drawn<frmCritical, OnEscape::Closes>, Drawn<frmFind, OnEscape::Stays, 'C'>,
+                   Drawn<frmQuick, OnEscape::Closes>>;
 INSTANTIATE_TYPED_TEST_SUITE_P(Analyses, EveryForm, Forms);
 
 }  // namespace

@@ -30,7 +30,12 @@ class Probe : public Form {
     int keyToUse = 0;
     bool failsToLoad = false;
 
+    using Form::isAtWork;
+    using Form::isClosing;
+    using Form::work;
+
   protected:
+    void Form_Cancel() override { happened += QStringLiteral("cancel"); }
     void Form_Load() override {
         happened += QStringLiteral("load");
         if (failsToLoad)
@@ -99,6 +104,40 @@ TEST_F(FormLife, ReturnsFromModalShowWhenItIsUnloaded) {
     form.ShowModal();
     EXPECT_TRUE(wasModalOverOwner);
     EXPECT_FALSE(form.isLoaded());
+}
+
+TEST_F(FormLife, IsUnloadedAfterTheWorkDuringWhichItIsClosed) {
+    Probe form;
+    form.Show();
+    form.work([&form] {
+        EXPECT_TRUE(form.isAtWork());
+        EXPECT_FALSE(form.close());
+        EXPECT_TRUE(form.isClosing());
+        EXPECT_TRUE(form.isVisible());
+        form.happened += QStringLiteral("work");
+    });
+    EXPECT_FALSE(form.isAtWork());
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(form.happened, Strings({QStringLiteral("load"), QStringLiteral("cancel"),
+                                      QStringLiteral("work"), QStringLiteral("unload")}));
+}
+
+TEST_F(FormLife, StaysAfterWorkDuringWhichNobodyClosesIt) {
+    Probe form;
+    form.Show();
+    form.work([] {});
+    EXPECT_TRUE(form.isVisible());
+    EXPECT_EQ(form.happened, Strings{QStringLiteral("load")});
+}
+
+TEST_F(FormLife, CanWorkAgainOnceItIsLoadedAnew) {
+    Probe form;
+    form.Show();
+    form.work([&form] { form.close(); });
+    form.Show();
+    EXPECT_FALSE(form.isClosing());
+    form.work([] {});
+    EXPECT_TRUE(form.isVisible());
 }
 
 TEST_F(FormLife, HandsAnErrorOfItsLoadToWhoeverLoadsIt) {

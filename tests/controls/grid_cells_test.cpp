@@ -267,6 +267,21 @@ TEST_F(GridCellsTest, TakeARowAtTheEnd) {
     EXPECT_EQ(row(6), QStringLiteral("|12|"));
 }
 
+TEST_F(GridCellsTest, TakeARowInAPlaceOfItsOwn) {
+    select(2, 1, 2, 1);
+    cells_.setCellForeColor(kGrey);
+    cells_.AddItem(u"Moss\t11\tKiel", 2);
+    EXPECT_EQ(row(2), QStringLiteral("Moss|11|Kiel"));
+    EXPECT_EQ(row(3), QStringLiteral("abe|10|Oslo"));
+    EXPECT_EQ(cells_.look(2, 1).foreColor, 0);
+    EXPECT_EQ(cells_.look(3, 1).foreColor, kGrey);
+    cells_.AddItem(u"last", 5);
+    EXPECT_EQ(row(5), QStringLiteral("last||"));
+    EXPECT_EQ(errorOf([&] { cells_.AddItem(u"beyond", 7); }), 381);
+    EXPECT_EQ(errorOf([&] { cells_.AddItem(u"before", -1); }), 381);
+    EXPECT_EQ(cells_.Rows(), 6);
+}
+
 TEST_F(GridCellsTest, TakeTheTextsOfARowInTheOrderOfTheColumnsAsTheyStand) {
     cells_.setColPosition(2, 0);
     cells_.AddItem(u"Kiel\tMoss\t11");

@@ -92,6 +92,43 @@ TEST_F(ListViewModelTest, TellsOfOneResetForAWholeFill) {
     EXPECT_EQ(resets, 1);
 }
 
+// Rows that tell of their making.
+class ListViewModelWithMadeRows : public ListViewModelTest {
+  protected:
+    ListViewModelWithMadeRows() {
+        model_.fill(3, [this](int index) {
+            made_.push_back(index);
+            return row(QString(QChar(u'c' - index)), QString::number(index));
+        });
+    }
+
+    std::vector<int> made_;
+};
+
+TEST_F(ListViewModelWithMadeRows, MakesARowOnceItIsLookedAtAndNotAgain) {
+    EXPECT_EQ(model_.rowCount(), 3);
+    made_.clear();
+    model_.data(model_.index(1, 0), Qt::TextAlignmentRole);
+    EXPECT_EQ(made_, std::vector<int>());
+    EXPECT_EQ(textAt(1, 0), QStringLiteral("b"));
+    EXPECT_EQ(textAt(1, 1), QStringLiteral("1"));
+    EXPECT_EQ(made_, std::vector{1});
+}
+
+TEST_F(ListViewModelWithMadeRows, SortsThemAll) {
+    model_.setSorting(kByName);
+    EXPECT_EQ(names().join(QString()), QStringLiteral("abc"));
+    model_.fill(2, [](int index) { return row(QString(QChar(u'z' - index)), {}); });
+    EXPECT_EQ(names().join(QString()), QStringLiteral("yz"));
+}
+
+TEST_F(ListViewModelWithMadeRows, KeepsThemBesideARowThatComesLater) {
+    model_.add(row(QStringLiteral("d"), {}));
+    model_.setSorting(kByName);
+    model_.add(row(QStringLiteral("A"), {}));
+    EXPECT_EQ(names().join(QString()), QStringLiteral("aAbcd"));
+}
+
 TEST_F(ListViewModelTest, KeepsTheGivenOrderUntilItIsSorted) {
     fillThree();
     model_.add(row(QStringLiteral("Curie"), QStringLiteral("1")));

@@ -21,6 +21,7 @@ class ListViewTest : public testing::Test, public QObject {
         view_.resize(300, 200);
         view_.show();
         onEvent(&view_, &ListView::ColumnClick, this, &ListViewTest::columnClicked);
+        onEvent(&view_, &ListView::ItemClick, this, &ListViewTest::itemClicked);
     }
 
     static ListRow row(const char* name, const char* age) {
@@ -43,11 +44,15 @@ class ListViewTest : public testing::Test, public QObject {
         click(*header.viewport(), {x, header.height() / 2});
     }
 
+    QPoint middleOf(int row) { return view_.visualRect(view_.model()->index(row, 0)).center(); }
+
     void columnClicked(int column) { clickedColumns_.push_back(column); }
+    void itemClicked(int row) { clickedRows_.push_back(row); }
 
     RecordingHost host_;
     ListView view_;
     std::vector<int> clickedColumns_;
+    std::vector<int> clickedRows_;
 };
 
 const QStringList kByName{QStringLiteral("abe"), QStringLiteral("Curie"), QStringLiteral("Zed")};
@@ -62,6 +67,36 @@ TEST_F(ListViewTest, TellsWhichHeaderIsClickedAndSortsNothingByItself) {
     EXPECT_EQ(clickedColumns_, std::vector({2, 1}));
     EXPECT_EQ(names(), kAsFilled);
     EXPECT_FALSE(view_.header()->isSortIndicatorShown());
+}
+
+TEST_F(ListViewTest, TellsWhichRowIsClicked) {
+    click(*view_.viewport(), middleOf(2));
+    click(*view_.viewport(), middleOf(0));
+    click(*view_.viewport(), {10, view_.viewport()->height() - 5});
+    EXPECT_EQ(clickedRows_, std::vector({2, 0}));
+}
+
+TEST_F(ListViewTest, TellsWhichRowIsChosenByEnter) {
+    pressKey(view_, Qt::Key_Down);
+    EXPECT_EQ(clickedRows_, std::vector<int>());
+    pressKey(view_, Qt::Key_Return);
+    pressKey(view_, Qt::Key_Down);
+    pressKey(view_, Qt::Key_Enter);
+    EXPECT_EQ(clickedRows_, std::vector({1, 2}));
+    view_.Clear();
+    pressKey(view_, Qt::Key_Return);
+    EXPECT_EQ(clickedRows_.size(), 2u);
+}
+
+TEST_F(ListViewTest, MakesOnlyTheRowsThatAreInView) {
+    int made = 0;
+    view_.fill(1000, [&made](int index) {
+        ++made;
+        return ListRow{.texts = {QString::number(index)}};
+    });
+    view_.grab();
+    EXPECT_GT(made, 0);
+    EXPECT_LT(made, 50);
 }
 
 TEST_F(ListViewTest, SortsByItsKeyOnceItIsSorted) {

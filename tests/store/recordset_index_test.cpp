@@ -1,7 +1,6 @@
 // Searches in a record set with an index: their results are those of a walk.
 #include <gtest/gtest.h>
 
-
 #include "cycles/calendar.h"
 #include "store/databases.h"
 #include "store/recordset.h"

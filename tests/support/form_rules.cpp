@@ -107,7 +107,7 @@ Objections objectionsToNames(const QWidget& form) {
     return objections;
 }
 
-Objections objectionsToMnemonics(const QWidget& form) {
+Objections objectionsToMnemonics(const QWidget& form, const std::string& sharedLetters) {
     Objections objections;
     std::map<QString, std::string> owners;
     for (const auto& [caption, owner] : captionsOf(form)) {
@@ -115,7 +115,7 @@ Objections objectionsToMnemonics(const QWidget& form) {
         if (letter.isEmpty())
             continue;
         const auto [first, isNew] = owners.emplace(letter, owner);
-        if (!isNew)
+        if (!isNew && sharedLetters.find(letter.back().toLatin1()) == std::string::npos)
             objections.push_back(first->second + " and " + owner + " share " +
                                  letter.toStdString());
     }

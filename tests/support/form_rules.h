@@ -15,9 +15,9 @@ Objections objectionsToTabOrder(const QWidget& form);
 // or by its accessible name.
 Objections objectionsToNames(const QWidget& form);
 
-// No two captions that are shown together share the letter that Alt goes to. (Entries of a menu
-// may: there the letter goes from one to the next.)
-Objections objectionsToMnemonics(const QWidget& form);
+// No two captions that are shown together share the letter that Alt goes to, but for the letters
+// named. (Entries of a menu may: there the letter goes from one to the next.)
+Objections objectionsToMnemonics(const QWidget& form, const std::string& sharedLetters = {});
 
 // The form fits the smallest screen that Ondara is made for.
 Objections objectionsToSize(const QWidget& form);

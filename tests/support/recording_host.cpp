@@ -101,6 +101,12 @@ void RecordingHost::paintWindows() {
         onPaintWindows_();
 }
 
+void RecordingHost::yield() {
+    ++yields_;
+    if (onYield_)
+        onYield_();
+}
+
 void RecordingHost::endProcess(int exitCode) {
     if (!exitCode_)
         exitCode_ = exitCode;

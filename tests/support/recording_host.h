@@ -45,6 +45,9 @@ class RecordingHost final : public Host {
 
     int yields() const { return yields_; }
 
+    // What the user does whenever a window processes its waiting events.
+    void onYield(std::function<void()> action) { onYield_ = std::move(action); }
+
     // What is to happen whenever windows are let to appear and paint.
     void onPaintWindows(std::function<void()> action) { onPaintWindows_ = std::move(action); }
 
@@ -70,7 +73,7 @@ class RecordingHost final : public Host {
     void showHelp(QObject* owner, const QString& fileName) override;
     Answer showMessage(const Message& message) override;
     void beep() override { ++beeps_; }
-    void yield() override { ++yields_; }
+    void yield() override;
     void paintWindows() override;
     void endProcess(int exitCode) override;
 
@@ -99,4 +102,5 @@ class RecordingHost final : public Host {
     int beeps_ = 0;
     int yields_ = 0;
     std::function<void()> onPaintWindows_;
+    std::function<void()> onYield_;
 };

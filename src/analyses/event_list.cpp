@@ -21,8 +21,9 @@ bool hasResults(std::size_t size) {
 }
 
 Date dateOf(const HitRow& hit, Date start) {
+    const std::string_view digits = hit.offset;
     Long offset = 0;
-    std::from_chars(hit.offset.data(), hit.offset.data() + hit.offset.size(), offset);
+    std::from_chars(digits.data(), digits.data() + digits.size(), offset);
     return start + offset;
 }
 

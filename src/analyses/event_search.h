@@ -10,8 +10,12 @@
 #pragma once
 
 #include <QLatin1String>
+#include <array>
+#include <charconv>
 #include <cmath>
-#include <string>
+#include <cstdint>
+#include <limits>
+#include <string_view>
 #include <vector>
 
 #include "cycles/cycle.h"
@@ -31,9 +35,28 @@ inline constexpr QLatin1String kEmotionalPhysical("EP");
 inline constexpr QLatin1String kEmotionalIntellectual("EI");
 inline constexpr QLatin1String kPhysicalIntellectual("PI");
 
-// A day that was found: its offset from the first date in decimal digits, and what it is.
+// A day offset in decimal digits. It lies in its row, as a scan finds thousands of them.
+class OffsetText {
+  public:
+    OffsetText() = default;
+    explicit OffsetText(Long offset) {
+        size_ = static_cast<std::uint8_t>(
+            std::to_chars(digits_.data(), digits_.data() + digits_.size(), offset).ptr -
+            digits_.data());
+    }
+
+    operator std::string_view() const { return {digits_.data(), size_}; }
+
+    friend bool operator==(const OffsetText&, const OffsetText&) = default;
+
+  private:
+    std::array<char, std::numeric_limits<Long>::digits10 + 2> digits_{};  // with a sign
+    std::uint8_t size_ = 0;
+};
+
+// A day that was found: its offset from the first date, and what it is.
 struct HitRow {
-    std::string offset = {};
+    OffsetText offset = {};
     QLatin1String word = {};
 
     friend bool operator==(const HitRow&, const HitRow&) = default;
@@ -75,6 +98,12 @@ constexpr Together criticalTogether(double emotional, double physical, double in
             -0.1 <= tenfold && tenfold < 1.0};
 }
 
+// Takes everything away that an array holds but for its first element.
+template <class Element>
+void empty(std::vector<Element>& hits) {
+    hits.resize(1);
+}
+
 // The sines of one cycle from a day count on.
 class Sines {
   public:
@@ -100,27 +129,46 @@ inline Sines intellectualSines(Long dayBase) {
 }
 
 // The word of a state; empty for a day like any other.
-QLatin1String wordOf(modCycles::DayState state);
+constexpr QLatin1String wordOf(modCycles::DayState state) {
+    switch (state) {
+        case modCycles::DayState::Critical:
+            return kCritical;
+        case modCycles::DayState::Low:
+            return kLow;
+        case modCycles::DayState::Peak:
+            return kPeak;
+        case modCycles::DayState::Ordinary:
+            break;
+    }
+    return {};
+}
 
 // The pair of cycles for which it holds; empty for none, and also for all three, as what holds for
 // all of them is no event of two.
-QLatin1String pairOf(const Together& together);
+constexpr QLatin1String pairOf(const Together& together) {
+    const bool emotionalPhysical = together.emotional && together.physical;
+    const bool emotionalIntellectual = together.emotional && together.intellectual;
+    const bool physicalIntellectual = together.physical && together.intellectual;
+    if (emotionalPhysical == emotionalIntellectual && emotionalIntellectual == physicalIntellectual)
+        return {};
+    if (emotionalPhysical)
+        return kEmotionalPhysical;
+    return emotionalIntellectual ? kEmotionalIntellectual : kPhysicalIntellectual;
+}
 
-template <class GoOn>
-void scanCycle(Long span, const Sines& sines, modCycles::DayState (*stateOf)(double),
-               std::vector<HitRow>& hits, GoOn& goOn) {
+template <auto stateOf, class GoOn>
+void scanCycle(Long span, const Sines& sines, std::vector<HitRow>& hits, GoOn& goOn) {
     for (Long day = 0; day <= span; ++day) {
         const modCycles::DayState state = stateOf(sines.at(day));
         if (state != modCycles::DayState::Ordinary)
-            hits.push_back({std::to_string(day), wordOf(state)});
+            hits.push_back({OffsetText(day), wordOf(state)});
         if (!goOn(day))
             return;
     }
 }
 
-template <class GoOn>
-void scanTogether(Long span, Long dayBase, bool triple,
-                  Together (*together)(double, double, double), EventHits& hits, GoOn& goOn) {
+template <auto together, class GoOn>
+void scanTogether(Long span, Long dayBase, bool triple, EventHits& hits, GoOn& goOn) {
     const Sines emotional = emotionalSines(dayBase);
     const Sines physical = physicalSines(dayBase);
     const Sines intellectual = intellectualSines(dayBase);
@@ -130,7 +178,7 @@ void scanTogether(Long span, Long dayBase, bool triple,
             if (found.emotional && found.physical && found.intellectual)
                 hits.TripleHits.push_back(day);
         } else if (const QLatin1String pair = pairOf(found); !pair.isEmpty()) {
-            hits.DoubleHits.push_back({std::to_string(day), pair});
+            hits.DoubleHits.push_back({OffsetText(day), pair});
         }
         if (!goOn(day))
             return;
@@ -144,14 +192,15 @@ void scanTogether(Long span, Long dayBase, bool triple,
 template <class GoOn>
 void SearchCycle(Long span, Long dayBase, std::string_view cycleKey, EventHits& hits, GoOn goOn) {
     using namespace search_detail;
-    hits.EmotHits = hits.PhysHits = hits.IntelHits = EventHits().EmotHits;
+    for (auto* array : {&hits.EmotHits, &hits.PhysHits, &hits.IntelHits})
+        empty(*array);
     if (cycleKey == modCycles::kEmotionalKey)
-        scanCycle(span, emotionalSines(dayBase), modCycles::emotionalState, hits.EmotHits, goOn);
+        scanCycle<modCycles::emotionalState>(span, emotionalSines(dayBase), hits.EmotHits, goOn);
     else if (cycleKey == modCycles::kPhysicalKey)
-        scanCycle(span, physicalSines(dayBase), modCycles::physicalState, hits.PhysHits, goOn);
+        scanCycle<modCycles::physicalState>(span, physicalSines(dayBase), hits.PhysHits, goOn);
     else if (cycleKey == modCycles::kIntellectualKey)
-        scanCycle(span, intellectualSines(dayBase), modCycles::intellectualState, hits.IntelHits,
-                  goOn);
+        scanCycle<modCycles::intellectualState>(span, intellectualSines(dayBase), hits.IntelHits,
+                                                goOn);
 }
 
 // Searches all three cycles for days of a kind that they share: with `triple` those that all three
@@ -160,12 +209,12 @@ template <class GoOn>
 void SearchCombined(Long span, Long dayBase, bool triple, Integer kind, EventHits& hits,
                     GoOn goOn) {
     using namespace search_detail;
-    hits.TripleHits = EventHits().TripleHits;
-    hits.DoubleHits = EventHits().DoubleHits;
+    empty(hits.TripleHits);
+    empty(hits.DoubleHits);
     if (kind == kPeakKind)
-        scanTogether(span, dayBase, triple, peaksTogether, hits, goOn);
+        scanTogether<peaksTogether>(span, dayBase, triple, hits, goOn);
     else if (kind == kLowKind)
-        scanTogether(span, dayBase, triple, lowsTogether, hits, goOn);
+        scanTogether<lowsTogether>(span, dayBase, triple, hits, goOn);
     else if (kind == kCriticalKind)
-        scanTogether(span, dayBase, triple, criticalTogether, hits, goOn);
+        scanTogether<criticalTogether>(span, dayBase, triple, hits, goOn);
 }

@@ -1,28 +1,31 @@
-// The bar on Qt's, which counts whole steps.
+// The bar on Qt's, which counts whole steps: one for each pixel, so that no step goes unseen.
 #include "controls/progress_bar.h"
 
 #include <QEvent>
+#include <algorithm>
 
 #include "runtime/errors.h"
 
 namespace {
 
 constexpr double kFull = 100;
-constexpr int kStepsToFull = 10'000;  // more than any bar has pixels
 
 }  // namespace
 
 ProgressBar::ProgressBar(QWidget* parent) : QProgressBar(parent) {
-    setRange(0, kStepsToFull);
-    setValue(0);
     setTextVisible(false);
+    followWidth();
 }
 
 void ProgressBar::setValue(double percent) {
     if (!(percent >= 0 && percent <= kFull))
         throw RuntimeError(ErrorNumber::InvalidPropertyValue);
     value_ = percent;
-    QProgressBar::setValue(qRound(percent / kFull * kStepsToFull));
+    showValue();
+}
+
+void ProgressBar::showValue() {
+    QProgressBar::setValue(qRound(value_ / kFull * maximum()));
 }
 
 void ProgressBar::setCycle(CycleColour cycle) {
@@ -34,6 +37,16 @@ void ProgressBar::changeEvent(QEvent* event) {
     QProgressBar::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && cycle_)
         followPalette();
+}
+
+void ProgressBar::resizeEvent(QResizeEvent* event) {
+    QProgressBar::resizeEvent(event);
+    followWidth();
+}
+
+void ProgressBar::followWidth() {
+    setRange(0, std::max(width(), 1));
+    showValue();
 }
 
 void ProgressBar::followPalette() {

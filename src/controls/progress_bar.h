@@ -22,8 +22,11 @@ class ProgressBar final : public QProgressBar {
 
   protected:
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
+    void showValue();
+    void followWidth();
     void followPalette();
 
     double value_ = 0;

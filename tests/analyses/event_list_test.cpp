@@ -20,8 +20,8 @@ FoundEvent on(Long offset, const char* icon, QLatin1String word = {}) {
 
 TEST(DoubleEvents, HaveThePairForTheirPicture) {
     EventHits hits;
-    hits.DoubleHits.push_back({"0", kEmotionalPhysical});
-    hits.DoubleHits.push_back({"36524", kPhysicalIntellectual});
+    hits.DoubleHits.push_back({OffsetText(0), kEmotionalPhysical});
+    hits.DoubleHits.push_back({OffsetText(36524), kPhysicalIntellectual});
     EXPECT_EQ(doubleEvents(hits, kStart), (std::vector{on(0, "EP"), on(36524, "PI")}));
 }
 
@@ -44,12 +44,9 @@ TEST(TripleEvents, AreOneLineWithoutADateWhereNothingWasFound) {
 class CycleEvents : public testing::Test {
   protected:
     CycleEvents() {
-        for (const auto& [offset, word] : {std::pair{"0", kCritical},
-                                           {"7", kPeak},
-                                           {"14", kCritical},
-                                           {"21", kLow},
-                                           {"35", kPeak}})
-            hits_.EmotHits.push_back({offset, word});
+        for (const auto& [offset, word] :
+             {std::pair{0, kCritical}, {7, kPeak}, {14, kCritical}, {21, kLow}, {35, kPeak}})
+            hits_.EmotHits.push_back({OffsetText(offset), word});
     }
 
     std::vector<FoundEvent> events(const EventKinds& kinds) const {
@@ -86,8 +83,8 @@ TEST_F(CycleEvents, AreOneLineWithoutADateWhereTheCycleHasNone) {
 }
 
 TEST_F(CycleEvents, AreThoseOfTheCycleThatIsNamed) {
-    hits_.PhysHits.push_back({"3", kLow});
-    hits_.IntelHits.push_back({"4", kLow});
+    hits_.PhysHits.push_back({OffsetText(3), kLow});
+    hits_.IntelHits.push_back({OffsetText(4), kLow});
     EXPECT_EQ(cycleEvents(hits_, kPhysicalSearch, kStart, kAll), std::vector{on(3, "Phys", kLow)});
     EXPECT_EQ(cycleEvents(hits_, kIntellectualSearch, kStart, kAll),
               std::vector{on(4, "Intel", kLow)});

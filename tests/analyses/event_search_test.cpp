@@ -5,6 +5,7 @@
 
 #include <map>
 #include <set>
+#include <string>
 
 namespace {
 
@@ -25,7 +26,7 @@ std::map<Long, QString> byDay(const std::vector<HitRow>& hits) {
     EXPECT_EQ(hits.front(), HitRow());
     std::map<Long, QString> days;
     for (auto hit = hits.begin() + 1; hit != hits.end(); ++hit)
-        days[std::stoi(hit->offset)] = hit->word;
+        days[std::stoi(std::string(hit->offset))] = hit->word;
     EXPECT_EQ(days.size(), hits.size() - 1);
     return days;
 }
@@ -91,8 +92,8 @@ TEST(SearchCycle, FindsTheBirthAndThePeakAWeekLater) {
 TEST(SearchCycle, WritesOffsetsInDecimalDigits) {
     EventHits hits;
     SearchCycle(kHundredYears, 0, "emot", hits, alwaysOn);
-    EXPECT_EQ(hits.EmotHits[1].offset, "0");
-    EXPECT_EQ(hits.EmotHits.back().offset, "36519");
+    EXPECT_EQ(std::string_view(hits.EmotHits[1].offset), "0");
+    EXPECT_EQ(std::string_view(hits.EmotHits.back().offset), "36519");
 }
 
 TEST(SearchCycle, EmptiesTheArraysOfAllThree) {

@@ -76,6 +76,14 @@ FAVOURITES = [
     ('favourites dropped down', 'dropFavouritesDown'),
 ]
 FAVOURITES_FLOOR = 'floorOfFavourites'
+# The search for events, however many people there are; an aim is so many times the floor, or so many
+# milliseconds.
+EVENTS = [
+    ('triples scanned', 'scanTriples', 1.3, 'times'),
+    ('cycles scanned', 'scanCycles', 1.3, 'times'),
+    ('triples found and painted', 'findTriples', 60, 'ms'),
+    ('everything found and painted', 'findEverything', None, 'ms'),
+]
 
 
 class Start:
@@ -184,6 +192,14 @@ def print_favourites(times):
         print_row(what, '', f'{value:.3f} ms', f'{floor:.3f} ms', f'{value / floor:.2f}', '')
 
 
+def print_events(times):
+    print_row('events of a hundred years', '', 'Ondara', 'floor', 'ratio', 'aim')
+    for what, routine, aim, unit in EVENTS:
+        value, floor = times[routine], times[f'{routine}Floor']
+        print_row(what, '', f'{value:.3f} ms', f'{floor:.3f} ms', f'{value / floor:.2f}',
+                  verdict(value if unit == 'ms' else value / floor, aim, unit))
+
+
 def print_growth(routines):
     print_row('growth, per n log n', 'people', 'Ondara', 'floor', '', 'aim')
     few, many = 1_000, 100_000
@@ -203,9 +219,11 @@ def main():
         for people, folder in folders.items():
             lay_out(programs, schema, interpretations, folder, people)
         starts = measure_starts(programs, folders)
-        routines = {people: measure_routines(folder, '-Favourites')
+        events = '|'.join(routine for _, routine, _, _ in EVENTS)
+        routines = {people: measure_routines(folder, f'-Favourites|{events}')
                     for people, folder in folders.items()}
         favourites = measure_routines(folders[PEOPLE[0]], 'Favourites')
+        searches = measure_routines(folders[PEOPLE[0]], events)
     print_starts(*starts)
     print()
     print_routines(routines)
@@ -213,6 +231,8 @@ def main():
     print_growth(routines)
     print()
     print_favourites(favourites)
+    print()
+    print_events(searches)
 
 
 if __name__ == '__main__':

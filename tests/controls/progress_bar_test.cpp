@@ -14,14 +14,20 @@ TEST(ProgressBar, KeepsItsValueUnrounded) {
     EXPECT_EQ(bar.Value(), 78.10275741145306);
 }
 
-TEST(ProgressBar, IsFilledByTheShareOfItsValue) {
+TEST(ProgressBar, IsFilledByTheShareOfItsValueToThePixel) {
     ProgressBar bar;
+    bar.resize(250, 20);
+    bar.show();
+    EXPECT_EQ(bar.maximum(), 250);
     const auto share = [&bar] { return static_cast<double>(bar.value()) / bar.maximum(); };
     EXPECT_EQ(share(), 0);
     for (const double percent : {0.0, 12.3, 50.0, 99.99, 100.0}) {
         bar.setValue(percent);
-        EXPECT_NEAR(share(), percent / 100, 1e-4) << percent;
+        EXPECT_NEAR(share(), percent / 100, 0.5 / 250) << percent;
     }
+    bar.setValue(50);
+    bar.resize(400, 20);
+    EXPECT_EQ(bar.value(), 200);
 }
 
 TEST(ProgressBar, ShowsNoFigure) {

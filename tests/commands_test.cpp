@@ -13,6 +13,7 @@
 #include "analyses/frmBirthdayToday.h"
 #include "analyses/frmCompat.h"
 #include "analyses/frmCritical.h"
+#include "analyses/frmFind.h"
 #include "analyses/frmQuick.h"
 #include "controls/button_menu.h"
 #include "controls/combo_box.h"
@@ -101,9 +102,13 @@ TEST_F(CommandsTest, AskForDetailsInWordsOfTheirOwn) {
 
 TEST_F(CommandsTest, AskForNobodyWhoIsThere) {
     startWith(kAnna);
-    for (const char* command : {"mnuFind", "mnuReport"})
-        trigger(command);
+    trigger("mnuReport");
     EXPECT_TRUE(host_.messages().empty());
+}
+
+TEST_F(CommandsTest, OpenTheSearchForEventsOfWhoIsChosen) {
+    startWith(kAnna);
+    expectForm<frmFind>("mnuFind");
 }
 
 TEST_F(CommandsTest, OpenTheDetailsOfWhoIsChosen) {
@@ -119,7 +124,7 @@ TEST_F(CommandsTest, HaveThePersonOfTheHiddenListOnceAQuickDateIsCharted) {
     start();
     trigger("mnuQuickBio");
     control<QPushButton>("cmdQuickGo").click();
-    trigger("mnuFind");
+    expectForm<frmFind>("mnuFind");
     EXPECT_TRUE(host_.messages().empty());
 }
 

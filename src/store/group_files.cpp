@@ -3,7 +3,6 @@
 
 #include "runtime/app.h"
 #include "runtime/text.h"
-#include "store/small_file.h"
 
 namespace {
 
@@ -19,12 +18,14 @@ QString groupFileName(const QString& groupName) {
     return Trim(groupName) + kExtension;
 }
 
-void writeGroup(const QString& fileName, const std::vector<PersonRecord>& members) {
-    writeSmallFile(App::Path(), fileName, writtenRecords(members));
+GroupWriter::GroupWriter(const QString& fileName) : file_(App::Path(), fileName) {}
+
+void GroupWriter::Close() {
+    file_.write(writtenRecords(members_));
 }
 
-std::vector<PersonRecord> readGroup(const QString& fileName) {
-    return readRecords(readSmallFile(App::Path(), fileName));
+void readGroup(const QString& fileName, const RecordTaker& take) {
+    readRecords(readSmallFile(App::Path(), fileName), take);
 }
 
 void deleteGroupFile(const QString& fileName) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "store/person_records.h"
+#include "store/small_file.h"
 
 // The pattern that lists them, "*.ofg".
 QString groupPattern();
@@ -12,13 +13,24 @@ QString groupPattern();
 // The name of the file for a group that the user calls so; blanks at the ends are no part of it.
 QString groupFileName(const QString& groupName);
 
-// Saves a group, in the place of one that is there. Raises what writeSmallFile raises; the group
-// that was there is whole then.
-void writeGroup(const QString& fileName, const std::vector<PersonRecord>& members);
+// Saves a group member by member, in the place of one that is there. Until it is closed, a group
+// that was there is whole; it stays so where closing fails. The constructor raises what that of
+// SmallFileWriter raises, Close what its write raises.
+class GroupWriter {
+  public:
+    explicit GroupWriter(const QString& fileName);
 
-// Reads the members of a group; nobody compares them with the database. Raises what readSmallFile
-// and readRecords raise.
-std::vector<PersonRecord> readGroup(const QString& fileName);
+    void Write(const PersonRecord& member) { members_.push_back(member); }
+    void Close();
+
+  private:
+    SmallFileWriter file_;
+    std::vector<PersonRecord> members_;
+};
+
+// Gives the members of a group away, one after the other; nobody compares them with the database.
+// Raises what readSmallFile and readRecords raise.
+void readGroup(const QString& fileName, const RecordTaker& take);
 
 // Deletes a group's file. Raises what deleteSmallFile raises.
 void deleteGroupFile(const QString& fileName);

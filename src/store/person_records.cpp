@@ -63,11 +63,9 @@ QString writtenRecords(const std::vector<PersonRecord>& records) {
     return lines;
 }
 
-std::vector<PersonRecord> readRecords(const QString& lines) {
-    std::vector<PersonRecord> records;
+void readRecords(const QString& lines, const RecordTaker& take) {
     for (Reader reader(lines); !reader.isAtEnd();)
-        records.push_back(reader.next());
-    return records;
+        take(reader.next());
 }
 
 PersonRecord readFirstRecord(const QString& lines) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 #include <vector>
 
 #include "cycles/integers.h"
@@ -18,9 +19,11 @@ struct PersonRecord {
 // The lines of the records. A double quote in a text is written as it stands.
 QString writtenRecords(const std::vector<PersonRecord>& records);
 
-// Reads all records. A text ends at its second double quote; what is left of its line is passed
-// over. Raises 62 where a record breaks off, 13 where it does not begin with a number.
-std::vector<PersonRecord> readRecords(const QString& lines);
+// Gives all records away, one after the other. A text ends at its second double quote; what is left
+// of its line is passed over. Raises 62 where a record breaks off, 13 where it does not begin with
+// a number; those before it have been given away then.
+using RecordTaker = std::function<void(const PersonRecord&)>;
+void readRecords(const QString& lines, const RecordTaker& take);
 
 // Reads the first record of a file that holds just one. Raises what readRecords raises, and 62 for
 // no record at all.

@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <algorithm>
 #include <array>
 
@@ -63,11 +62,18 @@ QString pathOfExisting(const QString& folder, const QString& fileName) {
     return path;
 }
 
-RuntimeError errorOf(const QFileDevice& file, const QString& path) {
+// Raises 52 also for a name that another system does not take.
+QString pathToWrite(const QString& folder, const QString& fileName) {
+    if (!isFileName(fileName))
+        throw badName(fileName);
+    return pathOf(folder, fileName);
+}
+
+RuntimeError errorOf(const QFileDevice& file) {
     const ErrorNumber number = file.error() == QFileDevice::ResourceError
                                    ? ErrorNumber::DiskFull
                                    : ErrorNumber::PathFileAccess;
-    return fileError(number, file.errorString(), path);
+    return fileError(number, file.errorString(), file.fileName());
 }
 
 }  // namespace
@@ -76,34 +82,38 @@ QString readSmallFile(const QString& folder, const QString& fileName) {
     const QString path = pathOfExisting(folder, fileName);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw errorOf(file, path);
+        throw errorOf(file);
     if (file.size() > kLargestFile)
         throw fileError(ErrorNumber::InvalidFileFormat, QStringLiteral("the file is too large"),
                         path);
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
-        throw errorOf(file, path);
+        throw errorOf(file);
     return decodeSmallText(bytes);
 }
 
-void writeSmallFile(const QString& folder, const QString& fileName, const QString& text) {
-    if (!isFileName(fileName))
-        throw badName(fileName);
-    const QString path = pathOf(folder, fileName);
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        throw errorOf(file, path);
-    file.write(encodeSmallText(text));
+SmallFileWriter::SmallFileWriter(const QString& folder, const QString& fileName)
+    : file_(pathToWrite(folder, fileName)) {
+    if (!file_.open(QIODevice::WriteOnly))
+        throw errorOf(file_);
+}
+
+void SmallFileWriter::write(const QString& text) {
+    file_.write(encodeSmallText(text));
     // To commit alone would be to rename a file that a full disk has cut short.
-    if (!file.flush() || !file.commit())
-        throw errorOf(file, path);
+    if (!file_.flush() || !file_.commit())
+        throw errorOf(file_);
+}
+
+void writeSmallFile(const QString& folder, const QString& fileName, const QString& text) {
+    SmallFileWriter(folder, fileName).write(text);
 }
 
 void deleteSmallFile(const QString& folder, const QString& fileName) {
     const QString path = pathOfExisting(folder, fileName);
     QFile file(path);
     if (!file.remove())
-        throw errorOf(file, path);
+        throw errorOf(file);
 }
 
 QStringList smallFiles(const QString& folder, const QString& extension) {

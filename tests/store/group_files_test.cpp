@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 
 #include "support/errors.h"
+#include "support/printing.h"
 #include "support/recording_host.h"
 
 namespace {
@@ -27,6 +28,25 @@ class GroupFiles : public testing::Test {
         file.write(bytes);
     }
 
+    using Members = std::vector<PersonRecord>;
+
+    static void write(const QString& name, const Members& members) {
+        GroupWriter file(name);
+        for (const PersonRecord& member : members)
+            file.Write(member);
+        file.Close();
+    }
+
+    static Members read(const QString& name) {
+        Members members;
+        readGroup(name, [&](const PersonRecord& member) { members.push_back(member); });
+        return members;
+    }
+
+    QStringList entries() const {
+        return QDir(directory_.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    }
+
     QTemporaryDir directory_;
     RecordingHost host_;
     const QString kFile = QStringLiteral("Friends.ofg");
@@ -35,9 +55,9 @@ class GroupFiles : public testing::Test {
 };
 
 TEST_F(GroupFiles, HoldALineForEachMemberInTheOrderGiven) {
-    writeGroup(kFile, {kAnna, kBen});
+    write(kFile, {kAnna, kBen});
     EXPECT_EQ(bytesOf(kFile), "42,\"Smith, Anna\"\r\n7,\"Adler, Ben\"\r\n");
-    EXPECT_EQ(readGroup(kFile), (std::vector{kAnna, kBen}));
+    EXPECT_EQ(read(kFile), (Members{kAnna, kBen}));
 }
 
 TEST_F(GroupFiles, AreCalledAsTheGroupIsWithoutBlanksAtItsEnds) {
@@ -46,35 +66,47 @@ TEST_F(GroupFiles, AreCalledAsTheGroupIsWithoutBlanksAtItsEnds) {
 }
 
 TEST_F(GroupFiles, AreReplacedByALaterGroupOfTheName) {
-    writeGroup(kFile, {kAnna, kBen});
-    writeGroup(kFile, {kBen});
-    EXPECT_EQ(readGroup(kFile), std::vector{kBen});
+    write(kFile, {kAnna, kBen});
+    write(kFile, {kBen});
+    EXPECT_EQ(read(kFile), Members{kBen});
 }
 
 TEST_F(GroupFiles, CanBeEmpty) {
     writeBytes(kFile, QByteArray());
-    EXPECT_EQ(readGroup(kFile), std::vector<PersonRecord>());
+    EXPECT_EQ(read(kFile), Members());
 }
 
 TEST_F(GroupFiles, ThatBreakOffRaise62) {
     writeBytes(kFile, "42,\"Smith, Anna\"\r\n7,\"Adl");
-    EXPECT_EQ(errorOf([&] { readGroup(kFile); }), 62);
+    EXPECT_EQ(errorOf([&] { read(kFile); }), 62);
 }
 
 TEST_F(GroupFiles, OfRandomBytesRaiseAnErrorOfTheirRecords) {
     writeBytes(kFile, QByteArray::fromHex("00ff80313b2c220a89504e47fffe2c222c"));
-    EXPECT_EQ(errorOf([&] { readGroup(kFile); }), 13);
+    EXPECT_EQ(errorOf([&] { read(kFile); }), 13);
 }
 
-TEST_F(GroupFiles, OfWhatIsNoNameRaise52AndLeaveNothing) {
-    EXPECT_EQ(errorOf([&] { writeGroup(QStringLiteral("a/b.ofg"), {kAnna}); }), 52);
-    EXPECT_TRUE(QDir(directory_.path()).isEmpty());
+TEST_F(GroupFiles, OfWhatIsNoNameRaise52BeforeAnyMemberAndLeaveNothing) {
+    for (const char* name : {"a/b.ofg", "a:b.ofg"})
+        EXPECT_EQ(errorOf([&] { GroupWriter file(QString::fromLatin1(name)); }), 52) << name;
+    EXPECT_EQ(entries(), QStringList());
+}
+
+TEST_F(GroupFiles, AreWholeUntilTheGroupThatReplacesThemIsClosed) {
+    write(kFile, {kAnna, kBen});
+    {
+        GroupWriter file(kFile);
+        file.Write(kBen);
+        EXPECT_EQ(read(kFile), (Members{kAnna, kBen}));
+    }
+    EXPECT_EQ(read(kFile), (Members{kAnna, kBen}));
+    EXPECT_EQ(entries(), QStringList(kFile));
 }
 
 TEST_F(GroupFiles, GoWithTheirFile) {
-    writeGroup(kFile, {kAnna});
+    write(kFile, {kAnna});
     deleteGroupFile(kFile);
-    EXPECT_EQ(errorOf([&] { readGroup(kFile); }), 53);
+    EXPECT_EQ(errorOf([&] { read(kFile); }), 53);
 }
 
 }  // namespace

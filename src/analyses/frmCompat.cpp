@@ -72,10 +72,7 @@ void frmCompat::setUpControls() {
 
 void frmCompat::setUpToolbar() {
     favesMenu_ = new ButtonMenu(this);
-    auto& faves = static_cast<QToolButton&>(*ui_->tbCompat->widgetForAction(ui_->tbCompat_Faves));
-    faves.setMenu(favesMenu_);
-    faves.setPopupMode(QToolButton::InstantPopup);
-    faves.setFocusPolicy(Qt::TabFocus);
+    favesMenu_->dropFrom(*ui_->tbCompat, *ui_->tbCompat_Faves).setFocusPolicy(Qt::TabFocus);
 }
 
 // The main person's cycles are the first three lines, and solid; the other's are dotted.

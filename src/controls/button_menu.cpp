@@ -2,6 +2,8 @@
 #include "controls/button_menu.h"
 
 #include <QProxyStyle>
+#include <QToolBar>
+#include <QToolButton>
 #include <utility>
 
 #include "runtime/errors.h"
@@ -26,6 +28,13 @@ class ScrollingMenus final : public QProxyStyle {
 ButtonMenu::ButtonMenu(QWidget* parent) : QMenu(parent) {
     setStyle(new ScrollingMenus(this));
     connect(this, &QMenu::aboutToShow, this, &ButtonMenu::showEntries);
+}
+
+QToolButton& ButtonMenu::dropFrom(const QToolBar& bar, QAction& button) {
+    auto& dropDown = static_cast<QToolButton&>(*bar.widgetForAction(&button));
+    dropDown.setMenu(this);
+    dropDown.setPopupMode(QToolButton::InstantPopup);
+    return dropDown;
 }
 
 const ButtonMenu::Entry& ButtonMenu::entry(int index) const {

@@ -5,6 +5,9 @@
 #include <QString>
 #include <vector>
 
+class QToolBar;
+class QToolButton;
+
 // Entries with a key and a text, counted from 1; the text "-" is a separator. A click on an entry
 // fires ButtonMenuClick with its number. What Qt needs to show an entry is made when the menu
 // opens, so thousands of entries cost little until then.
@@ -13,6 +16,9 @@ class ButtonMenu final : public QMenu {
 
   public:
     explicit ButtonMenu(QWidget* parent = nullptr);
+
+    // Drops down from the button of a toolbar when that is pressed. Returns the button.
+    QToolButton& dropFrom(const QToolBar& bar, QAction& button);
 
     int Count() const { return static_cast<int>(entries_.size()); }
 

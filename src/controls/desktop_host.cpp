@@ -23,6 +23,8 @@ QMessageBox::Icon iconOf(MessageIcon icon) {
             return QMessageBox::Critical;
         case MessageIcon::Exclamation:
             return QMessageBox::Warning;
+        case MessageIcon::Information:
+            return QMessageBox::Information;
     }
     Q_UNREACHABLE();
 }

@@ -15,6 +15,13 @@ void EntryModel::fill(std::vector<ListEntry> entries) {
     endResetModel();
 }
 
+int EntryModel::add(std::vector<ListEntry> entries, int index) {
+    beginResetModel();
+    const int place = entries_.add(std::move(entries), index);
+    endResetModel();
+    return place;
+}
+
 void EntryModel::insert(int place, const QString& text) {
     beginInsertRows({}, place, place);
     entries_.insert(place, text);

@@ -15,6 +15,7 @@ class EntryModel final : public QAbstractListModel {
     void setSorted(bool sorted);
     void fill(std::vector<ListEntry> entries);
 
+    int add(std::vector<ListEntry> entries, int index);
     void insert(int place, const QString& text);
     void remove(int index);
     void changeItemData(int index, Long value) { entries_.setItemData(index, value); }

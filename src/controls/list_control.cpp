@@ -44,6 +44,12 @@ void ListControl::AddItem(const QString& text) {
     change(listIndex_ >= place ? listIndex_ + 1 : listIndex_, [&] { model_.insert(place, text); });
 }
 
+void ListControl::add(std::vector<ListEntry> entries) {
+    const QScopedValueRollback changing(changing_, true);
+    listIndex_ = model_.add(std::move(entries), listIndex_);
+    showListIndex(listIndex_);
+}
+
 void ListControl::RemoveItem(int index) {
     if (!entries().contains(index))
         throw RuntimeError(ErrorNumber::InvalidProcedureCall);

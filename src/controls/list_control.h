@@ -31,6 +31,9 @@ class ListControl : public ItemList {
     QString List(int index) const { return entries().text(index); }
     Long ItemData(int index) const { return entries().itemData(index); }
 
+    // All entries, in their order.
+    const std::vector<ListEntry>& all() const { return entries().all(); }
+
     // The first entry with this number as item data; -1 if there is none.
     int indexOf(Long itemData) const;
 
@@ -42,6 +45,9 @@ class ListControl : public ItemList {
     // NewIndex tells where it stands.
     void AddItem(const QString& text);
     int NewIndex() const { return entries().newIndex(); }
+
+    // Adds entries, as AddItem one after the other, each with its item data.
+    void add(std::vector<ListEntry> entries);
 
     // Raises 5 if there is no such entry. A selection stays with its entry, and goes with it.
     void RemoveItem(int index);

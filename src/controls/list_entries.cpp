@@ -2,6 +2,7 @@
 #include "controls/list_entries.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "runtime/errors.h"
@@ -46,6 +47,23 @@ int ListEntries::placeOf(const QString& text) const {
 void ListEntries::insert(int place, const QString& text) {
     entries_.insert(entries_.begin() + place, {.text = text});
     newIndex_ = place;
+}
+
+int ListEntries::add(std::vector<ListEntry> entries, int index) {
+    const auto goesBefore = [&](const ListEntry& added) {
+        return comesBefore(added, entry(index));
+    };
+    const auto before =
+        sorted_ && index >= 0 ? std::count_if(entries.begin(), entries.end(), goesBefore) : 0;
+    const int present = count();
+    std::move(entries.begin(), entries.end(), std::back_inserter(entries_));
+    newIndex_ = -1;
+    if (sorted_) {
+        const auto added = entries_.begin() + present;
+        std::stable_sort(added, entries_.end(), comesBefore);
+        std::inplace_merge(entries_.begin(), added, entries_.end(), comesBefore);
+    }
+    return index + static_cast<int>(before);
 }
 
 void ListEntries::remove(int index) {

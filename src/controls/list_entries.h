@@ -26,6 +26,10 @@ class ListEntries {
     // Adds an entry with item data 0 at the place that placeOf gives.
     void insert(int place, const QString& text);
 
+    // Adds entries as if one came after the other. Returns where the entry of this index, or none
+    // of index -1, stands then.
+    int add(std::vector<ListEntry> entries, int index);
+
     // Removes an entry that is there.
     void remove(int index);
 
@@ -39,6 +43,8 @@ class ListEntries {
     const QString& text(int index) const;
     Long itemData(int index) const;
     void setItemData(int index, Long value);
+
+    const std::vector<ListEntry>& all() const { return entries_; }
 
     // The first entry with exactly this text, -1 if there is none.
     int find(const QString& text) const;

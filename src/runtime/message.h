@@ -4,7 +4,7 @@
 #include <QObject>
 #include <QString>
 
-enum class MessageIcon { None, Critical, Exclamation };
+enum class MessageIcon { None, Critical, Exclamation, Information };
 enum class MessageButtons { Ok, YesNo };
 enum class Answer { Ok, Yes, No };
 

@@ -2,7 +2,6 @@
 #include "shell/frmMain.h"
 
 #include <QAction>
-#include <QToolButton>
 
 #include "controls/button_menu.h"
 #include "controls/chart.h"
@@ -70,9 +69,7 @@ void frmMain::setUpToolbar() {
 
     favesMenu_ = new ButtonMenu(this);
     modCycles::startFavouritesMenu(*favesMenu_);
-    auto& faves = static_cast<QToolButton&>(*ui_->tlbMain->widgetForAction(ui_->tlbMain_Faves));
-    faves.setMenu(favesMenu_);
-    faves.setPopupMode(QToolButton::InstantPopup);
+    favesMenu_->dropFrom(*ui_->tlbMain, *ui_->tlbMain_Faves);
 }
 
 QAction& frmMain::command(const char* name) {

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QToolBar>
+#include <QToolButton>
 
 #include "support/errors.h"
 #include "support/printing.h"
@@ -40,6 +42,16 @@ TEST_F(ButtonMenuTest, CountsItsEntriesFromOne) {
         EXPECT_EQ(errorOf([&] { menu_.Text(index); }), 35600);
         EXPECT_EQ(errorOf([&] { menu_.Remove(index); }), 35600);
     }
+}
+
+TEST_F(ButtonMenuTest, DropsFromTheButtonOfAToolbar) {
+    QToolBar bar;
+    bar.addAction(QStringLiteral("Help"));
+    QAction& faves = *bar.addAction(QStringLiteral("Favourites"));
+    const QToolButton& button = menu_.dropFrom(bar, faves);
+    EXPECT_EQ(&button, bar.widgetForAction(&faves));
+    EXPECT_EQ(button.menu(), &menu_);
+    EXPECT_EQ(button.popupMode(), QToolButton::InstantPopup);
 }
 
 TEST_F(ButtonMenuTest, ShowsTextsAsTheyAreAndTheDashAsASeparator) {

@@ -65,6 +65,14 @@ TEST_F(DesktopHostTest, HasNoIconAndNoTitleUnlessTheyAreAskedFor) {
     });
 }
 
+TEST_F(DesktopHostTest, HasTheIconThatIsAskedFor) {
+    for (const auto& [asked, icon] :
+         {std::pair(MessageIcon::Critical, QMessageBox::Critical),
+          std::pair(MessageIcon::Information, QMessageBox::Information)})
+        answered({.text = QStringLiteral("Done!"), .icon = asked}, QMessageBox::Ok,
+                 [&](const QMessageBox& box) { EXPECT_EQ(box.icon(), icon); });
+}
+
 TEST_F(DesktopHostTest, AnswersAQuestionAsTheUserDoes) {
     const Message question{.text = QStringLiteral("Sure?"), .buttons = MessageButtons::YesNo};
     const auto look = [](const QMessageBox& box) {

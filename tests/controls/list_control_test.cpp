@@ -53,6 +53,16 @@ TYPED_TEST_SUITE(Lists, ListWidgets, WidgetName);
 
 }  // namespace
 
+TYPED_TEST(Lists, KeepTheSelectionWithItsEntryWhenOthersAreAdded) {
+    this->list_.setText(kMarie);
+    this->list_.add({{kMarie, 2}, {QStringLiteral("Zed"), 3}, {QStringLiteral("Abe"), 4}});
+    EXPECT_EQ(this->list_.ListCount(), 6);
+    EXPECT_EQ(this->list_.ListIndex(), 2);
+    EXPECT_EQ(this->list_.ItemData(2), 1867);
+    EXPECT_EQ(shownIndex(this->list_), 2);
+    EXPECT_EQ(this->clicks_.fired(), 1);
+}
+
 TYPED_TEST(Lists, HaveNoSelectionAfterAFill) {
     EXPECT_EQ(this->list_.ListIndex(), -1);
     EXPECT_EQ(shownIndex(this->list_), -1);

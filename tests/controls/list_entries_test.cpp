@@ -52,6 +52,29 @@ TEST(ListEntries, KeepTheGivenOrderUnlessTheListIsSorted) {
     EXPECT_EQ(entries.newIndex(), 2);
 }
 
+TEST(ListEntries, AreAddedTogetherAsIfOneCameAfterTheOther) {
+    const std::vector<ListEntry> added{{QStringLiteral("Zed"), 3},
+                                       {QStringLiteral("abe"), 4},
+                                       {QStringLiteral("Mia"), 5},
+                                       {QStringLiteral("abe"), 6}};
+    for (const bool isSorted : {true, false}) {
+        ListEntries oneByOne;
+        ListEntries together;
+        for (ListEntries* entries : {&oneByOne, &together}) {
+            entries->setSorted(isSorted);
+            entries->fill({{QStringLiteral("abe"), 1}, {QStringLiteral("Mia"), 2}});
+        }
+        for (const ListEntry& entry : added)
+            oneByOne.setItemData(add(oneByOne, entry.text), entry.itemData);
+        EXPECT_EQ(together.add(added, 1), isSorted ? 3 : 1);
+        EXPECT_EQ(textsOf(together), textsOf(oneByOne));
+        for (int i = 0; i < together.count(); ++i)
+            EXPECT_EQ(together.itemData(i), oneByOne.itemData(i));
+        EXPECT_EQ(together.newIndex(), -1);
+        EXPECT_EQ(together.add({{QStringLiteral("a")}}, -1), -1);
+    }
+}
+
 TEST(ListEntries, KeepTheirItemDataThroughTheSort) {
     const ListEntries entries =
         sortedEntries({{QStringLiteral("Zed"), 26}, {QStringLiteral("abe"), 1}});

@@ -90,8 +90,15 @@ void Grid::setRedraw(bool redraw) {
     frozenCells_ = redraw ? QPixmap() : viewport()->grab();
     frozenHeader_ = redraw ? QPixmap() : horizontalHeader()->viewport()->grab();
     redraw_ = redraw;
-    viewport()->update();
-    horizontalHeader()->viewport()->update();
+    setUpdatesEnabled(redraw);
+}
+
+// The picture is there by itself until the grid is hidden or gets another size. To paint it, and
+// the scroll bars, at every change of the cells costs more than the change.
+bool Grid::event(QEvent* event) {
+    if (event->type() == QEvent::Resize || event->type() == QEvent::Hide)
+        setUpdatesEnabled(true);
+    return QTableView::event(event);
 }
 
 void Grid::paintEvent(QPaintEvent* event) {

@@ -365,6 +365,29 @@ TEST_F(GridTest, IsPaintedAnewWhenRedrawIsOnAgain) {
     EXPECT_EQ(header.painted(), 1);
 }
 
+TEST_F(GridTest, PaintsItsPictureOnlyWhereThatIsLost) {
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&grid_));
+    const auto paintsAfter = [this](auto act) {
+        grid_.setRedraw(true);
+        grid_.setRedraw(false);
+        const PaintCounter cells(cellView());
+        const PaintCounter header(headerView());
+        act();
+        QCoreApplication::processEvents();
+        return std::pair(cells.painted() > 0, header.painted() > 0);
+    };
+    const auto none = std::pair(false, false);
+    const auto all = std::pair(true, true);
+    EXPECT_EQ(paintsAfter([this] { grid_.change([](GridCells& cells) { cells.setRows(99); }); }),
+              none);
+    EXPECT_EQ(paintsAfter([this] { grid_.resize(grid_.width() + 50, grid_.height()); }), all);
+    EXPECT_EQ(paintsAfter([this] {
+                  grid_.hide();
+                  grid_.show();
+              }),
+              all);
+}
+
 TEST_F(GridTest, IsPaintedAtOnceByARefresh) {
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&grid_));
     const PaintCounter cells(cellView());

@@ -7,6 +7,7 @@
 #include "analyses/frmCompat.h"
 #include "analyses/frmCritical.h"
 #include "analyses/frmFind.h"
+#include "analyses/frmGroup.h"
 #include "analyses/frmQuick.h"
 #include "controls/button_menu.h"
 #include "controls/combo_box.h"
@@ -44,6 +45,7 @@ Commands::Commands(frmMain& window) : window_(window) {
     onCommand("mnuFileCat", &Commands::mnuFileCat_Click);
     onCommand("mnuFileExplore", &Commands::mnuFileExplore_Click);
     onCommand("mnuFind", &Commands::mnuFind_Click);
+    onCommand("mnuGroup", &Commands::mnuGroup_Click);
     onCommand("mnuHelpAbout", &Commands::mnuHelpAbout_Click);
     onCommand("mnuHelpContents", &Commands::mnuHelpContents_Click);
     onCommand("mnuMatchDabatase", &Commands::mnuMatchDabatase_Click);
@@ -118,6 +120,10 @@ void Commands::mnuFileCat_Click() {
 void Commands::mnuFileExplore_Click() {
     openSlowForm<frmExplore>();
     modCycles::SelectedNameID = 0;
+}
+
+void Commands::mnuGroup_Click() {
+    openSlowForm<frmGroup>();
 }
 
 void Commands::mnuHelpAbout_Click() {

@@ -24,6 +24,7 @@ class Commands final : public QObject {
     void mnuFileCat_Click();
     void mnuFileExplore_Click();
     void mnuFind_Click();
+    void mnuGroup_Click();
     void mnuHelpAbout_Click();
     void mnuHelpContents_Click();
     void mnuMatchDabatase_Click();

@@ -14,6 +14,7 @@
 #include "analyses/frmCompat.h"
 #include "analyses/frmCritical.h"
 #include "analyses/frmFind.h"
+#include "analyses/frmGroup.h"
 #include "analyses/frmQuick.h"
 #include "controls/button_menu.h"
 #include "controls/combo_box.h"
@@ -136,6 +137,7 @@ TEST_F(CommandsTest, OpenTheFormsThatNeedNobodyWithoutAPerson) {
     expectForm<frmAdd>("mnuFileAdd");
     expectForm<frmCategory>("mnuFileCat");
     expectForm<frmExplore>("mnuFileExplore");
+    expectForm<frmGroup>("mnuGroup");
 }
 
 TEST_F(CommandsTest, OpenTheFormsThatNeedAPersonForWhoeverIsChosen) {
@@ -152,8 +154,8 @@ TEST_F(CommandsTest, ShowTheWaitWindowBeforeASlowFormAlone) {
         trigger(command);
         return unloads.fired();
     };
-    for (const char* slow :
-         {"mnuViewDetails", "mnuMatchDabatase", "mnuFileAdd", "mnuFileCat", "mnuFileExplore"})
+    for (const char* slow : {"mnuViewDetails", "mnuMatchDabatase", "mnuFileAdd", "mnuFileCat",
+                             "mnuFileExplore", "mnuGroup"})
         EXPECT_EQ(waits(slow), 1) << slow;
     EXPECT_EQ(waits("mnuQuickMatch"), 0);
 }

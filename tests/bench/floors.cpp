@@ -59,6 +59,19 @@ std::vector<double> plainBirthdates(const QString& database) {
     return birthdates;
 }
 
+std::vector<double> plainBirthdatesOfFirst(const QString& database, Long people) {
+    const SQLite::Database file(database.toStdString());
+    SQLite::Statement row(file, "SELECT Birthdate FROM Data WHERE NameID = ?");
+    std::vector<double> birthdates;
+    for (Long nameId = 1; nameId <= people; ++nameId) {
+        row.bind(1, nameId);
+        if (row.executeStep())
+            birthdates.push_back(row.getColumn(0).getDouble());
+        row.reset();
+    }
+    return birthdates;
+}
+
 std::string plainInterpretation(const QString& database) {
     const SQLite::Database file(database.toStdString());
     SQLite::Statement row(file, "SELECT interp FROM HLC WHERE Emot = 0 AND Phys = 0 AND Intel = 0");

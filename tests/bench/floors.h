@@ -33,6 +33,9 @@ double plainBirthdate(const QString& database, Long nameId);
 // The birth dates of all people, as days since 30 December 1899.
 std::vector<double> plainBirthdates(const QString& database);
 
+// The birth dates of the people with the first keys, each read by itself through one connection.
+std::vector<double> plainBirthdatesOfFirst(const QString& database, Long people);
+
 // The interpretation of a day on which every cycle is critical.
 std::string plainInterpretation(const QString& database);
 

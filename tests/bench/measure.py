@@ -40,6 +40,8 @@ EXPLORED_AIM = {100_000: 250}
 SORTED_AIM = {100_000: 100}
 RANKED_AIM = {100_000: 200}
 RANKED_ANEW_AIM = {100_000: 50}
+GROUP_LOADED_AIM = {people: 60 for people in PEOPLE}
+GROUP_COMPARED_AIM = {1_000: 300, 100_000: 300}
 
 # A routine may grow by this much more than n log n from 1,000 people to 100,000: the processor's
 # caches hold the former and not the latter.
@@ -60,6 +62,8 @@ ROUTINES = [
     ('other clicked to match painted', 'clickOther', COMPARED_AIM),
     ('everybody ranked and painted', 'searchMatches', RANKED_AIM),
     ('the ranking sorted anew to painted', 'sortMatchesAnew', RANKED_ANEW_AIM),
+    ('group of 10,000 loaded to painted', 'loadGroup', GROUP_LOADED_AIM),
+    ('group of 1,000 compared to painted', 'calculateGroup', GROUP_COMPARED_AIM),
     ('person\'s card opened to painted', 'openCard', CARD_AIM),
     ('day analysed', 'analyseDay', ANALYSED_AIM),
     ('date changed to details painted', 'changeDate', CHANGED_AIM),
@@ -160,7 +164,7 @@ def verdict(value, aim, unit):
 
 def print_row(*cells):
     what, *figures, judged = cells
-    print(f'{what:32}' + ''.join(f'{figure:>14}' for figure in figures) + f'   {judged}'.rstrip())
+    print(f'{what:36}' + ''.join(f'{figure:>14}' for figure in figures) + f'   {judged}'.rstrip())
 
 
 def print_starts(empty, ondara):

@@ -134,7 +134,8 @@ TEST_F(SavedGroup, LocksTheWindowWhileItIsWritten) {
         EXPECT_TRUE(isShown("lblProc"));
         EXPECT_EQ(textOf("lblCancel"), QStringLiteral("Press Esc to cancel"));
         EXPECT_EQ(group().ListIndex(), looks - 1);
-        Q_EMIT of<PictureButton>("cmdSave").Click();
+        if (looks == 1)
+            Q_EMIT of<PictureButton>("cmdSave").Click();
     });
     save("Friends");
     EXPECT_EQ(looks, 3);

@@ -15,6 +15,7 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -143,14 +144,14 @@ constexpr QLatin1String wordOf(modCycles::DayState state) {
     return {};
 }
 
-// The pair of cycles for which it holds; empty for none, and also for all three, as what holds for
-// all of them is no event of two.
-constexpr QLatin1String pairOf(const Together& together) {
+// The pair of cycles for which it holds; none also for all three, as what holds for all of them is
+// no event of two.
+constexpr std::optional<QLatin1String> pairOf(const Together& together) {
     const bool emotionalPhysical = together.emotional && together.physical;
     const bool emotionalIntellectual = together.emotional && together.intellectual;
     const bool physicalIntellectual = together.physical && together.intellectual;
     if (emotionalPhysical == emotionalIntellectual && emotionalIntellectual == physicalIntellectual)
-        return {};
+        return std::nullopt;
     if (emotionalPhysical)
         return kEmotionalPhysical;
     return emotionalIntellectual ? kEmotionalIntellectual : kPhysicalIntellectual;
@@ -177,8 +178,8 @@ void scanTogether(Long span, Long dayBase, bool triple, EventHits& hits, GoOn& g
         if (triple) {
             if (found.emotional && found.physical && found.intellectual)
                 hits.TripleHits.push_back(day);
-        } else if (const QLatin1String pair = pairOf(found); !pair.isEmpty()) {
-            hits.DoubleHits.push_back({OffsetText(day), pair});
+        } else if (const std::optional<QLatin1String> pair = pairOf(found)) {
+            hits.DoubleHits.push_back({OffsetText(day), *pair});
         }
         if (!goOn(day))
             return;

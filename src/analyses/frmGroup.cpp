@@ -306,10 +306,10 @@ void frmGroup::SetGrid() {
 void frmGroup::cmdSave_Click() {
     if (isAtWork())
         return;
-    run([this] { trapped(this, [this] { save(); }); });
+    run([this] { trapped(this, [this] { saveGroup(); }); });
 }
 
-void frmGroup::save() {
+void frmGroup::saveGroup() {
     const QString name = ui_->txtGroupName->text();
     if (ui_->lstGroup->ListCount() == 0) {
         tell(QStringLiteral("Please select people from the list first!"), MessageIcon::Exclamation);

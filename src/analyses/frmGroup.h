@@ -71,7 +71,7 @@ class frmGroup final : public Form {
     void calculate();
     void startGrid();
     QString rowOf(Connection& connection, int member) const;
-    void save();
+    void saveGroup();
 
     std::unique_ptr<Ui::frmGroup> ui_;
     ButtonMenu* favesMenu_ = nullptr;

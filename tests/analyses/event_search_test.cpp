@@ -246,9 +246,9 @@ TEST(PairOf, IsTriedInOrderAndIsNoneForOneCycleOrThree) {
     EXPECT_EQ(pairOf({true, true, false}), QLatin1String("EP"));
     EXPECT_EQ(pairOf({true, false, true}), QLatin1String("EI"));
     EXPECT_EQ(pairOf({false, true, true}), QLatin1String("PI"));
-    EXPECT_TRUE(pairOf({true, false, false}).isEmpty());
-    EXPECT_TRUE(pairOf({false, false, false}).isEmpty());
-    EXPECT_TRUE(pairOf({true, true, true}).isEmpty());
+    EXPECT_FALSE(pairOf({true, false, false}));
+    EXPECT_FALSE(pairOf({false, false, false}));
+    EXPECT_FALSE(pairOf({true, true, true}));
 }
 
 }  // namespace

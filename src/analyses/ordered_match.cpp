@@ -2,6 +2,7 @@
 #include "analyses/ordered_match.h"
 
 #include <QStringList>
+#include <array>
 
 #include "analyses/compared_person.h"
 #include "cycles/cycle.h"
@@ -28,14 +29,14 @@ constexpr Long kHighColour = 0xFF00FF;
 constexpr Long kMiddlingColour = 0xFF0000;
 constexpr Long kLowColour = 0x0000FF;
 
-QString matchRow(const Recordset& other, const ComparedPerson& person) {
+using MatchRow = std::array<QString, kLastNumberColumn + 1>;
+
+MatchRow matchRow(const Recordset& other, const ComparedPerson& person) {
     const modCycles::CycleValues values = modCycles::CalcCompats(
-        modCycles::DayCount(person.birthdate, other.Fields(u"birthdate").toDate()));
-    QString row = fullName(other);
-    for (const double percent :
-         {values.average(), values.emotional, values.physical, values.intellectual})
-        row += u'\t' + numberText(Round(percent));
-    return row;
+        modCycles::DayCount(person.birthdate, other.Fields(u"Birthdate").toDate()));
+    return {fullName(other), numberText(Round(values.average())),
+            numberText(Round(values.emotional)), numberText(Round(values.physical)),
+            numberText(Round(values.intellectual))};
 }
 
 }  // namespace
@@ -92,11 +93,12 @@ void SetGrid(GridCells& cells) {
         cells.setColWidth(column, column < kAverageColumn ? kNameWidth : kNumberWidth);
         cells.setTextMatrix(0, column, headers[column]);
     }
-    for (int column = kAverageColumn; column <= kLastNumberColumn; ++column) {
+    for (int column = kAverageColumn; column <= kLastNumberColumn; ++column)
         cells.setColAlignment(column, ColumnAlignment::Centre);
-        cells.setCol(column);
-        for (int row = cells.FixedRows(); row < cells.Rows(); ++row) {
-            cells.setRow(row);
+    for (int row = cells.FixedRows(); row < cells.Rows(); ++row) {
+        cells.setRow(row);
+        for (int column = kAverageColumn; column <= kLastNumberColumn; ++column) {
+            cells.setCol(column);
             cells.setCellForeColor(SetCol(cells.Text()));
         }
     }

@@ -101,6 +101,13 @@ void GridCells::AddItem(QStringView texts, int place) {
     }
 }
 
+void GridCells::AddItem(std::span<const QString> texts) {
+    rows_.push_back(emptyRow());
+    const std::size_t taken = std::min(texts.size(), columns_.size());
+    for (std::size_t column = 0; column < taken; ++column)
+        setTextMatrix(Rows() - 1, static_cast<int>(column), texts[column]);
+}
+
 void GridCells::RemoveItem(int row) {
     const auto gone = rows_.begin() + static_cast<std::ptrdiff_t>(checkedRow(row));
     freeRows_.push_back(*gone);

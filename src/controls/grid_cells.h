@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <span>
 #include <vector>
 
 #include "cycles/integers.h"
@@ -54,6 +55,9 @@ class GridCells {
     // there on move down. Cells beyond the last column are dropped.
     void AddItem(QStringView texts) { AddItem(texts, Rows()); }
     void AddItem(QStringView texts, int place);
+
+    // The same at the end with texts that are divided already.
+    void AddItem(std::span<const QString> texts);
 
     // Takes a row away. Where it was the last and current, the one before it is current then.
     void RemoveItem(int row);

@@ -3,8 +3,15 @@
 
 #include <cmath>
 #include <limits>
+#include <vector>
 
 #include "runtime/errors.h"
+
+namespace {
+
+constexpr Long kWhole = 100;  // per cent
+
+}  // namespace
 
 Long Round(double value) {
     const double nearest = std::nearbyint(value);  // the default rounding mode: half to even
@@ -22,7 +29,16 @@ Integer RoundToInteger(double value) {
     return static_cast<Integer>(nearest);
 }
 
+// Lists show percentages by the hundred thousand, so these share their texts.
 QString numberText(Long value) {
+    static const std::vector<QString> kPercentages = [] {
+        std::vector<QString> texts;
+        for (int percentage = 0; percentage <= kWhole; ++percentage)
+            texts.push_back(QString::number(percentage));
+        return texts;
+    }();
+    if (value >= 0 && value <= kWhole)
+        return kPercentages[static_cast<std::size_t>(value)];
     return QString::number(value);
 }
 

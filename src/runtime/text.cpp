@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "runtime/errors.h"
 
@@ -15,7 +16,7 @@ bool isDigit(QChar character) {
 }
 
 // How many characters from `start` on are digits.
-qsizetype digitsFrom(const QString& text, qsizetype start) {
+qsizetype digitsFrom(QStringView text, qsizetype start) {
     const auto end = std::find_if_not(text.begin() + start, text.end(), isDigit);
     return end - (text.begin() + start);
 }
@@ -31,6 +32,17 @@ qsizetype exponentLength(const QString& text, qsizetype start) {
     const qsizetype digitsStart = start + (isSignAt(text, start + 1) ? 2 : 1);
     const qsizetype digits = digitsFrom(text, std::min(digitsStart, text.size()));
     return digits == 0 ? 0 : digitsStart - start + digits;
+}
+
+// The number where the text is a few digits and nothing else, as most are.
+std::optional<double> plainNumber(QStringView text) {
+    constexpr qsizetype kFewDigits = 9;  // they fit into 32 bits
+    if (text.isEmpty() || text.size() > kFewDigits || digitsFrom(text, 0) != text.size())
+        return std::nullopt;
+    Long number = 0;
+    for (const QChar digit : text)
+        number = number * 10 + digit.digitValue();
+    return number;
 }
 
 }  // namespace
@@ -63,6 +75,8 @@ QString LCase(const QString& text) {
 }
 
 double Val(QStringView text) {
+    if (const std::optional<double> number = plainNumber(text))
+        return *number;
     QString packed = text.toString();
     packed.removeIf([](QChar c) { return c == kBlank || c == u'\t' || c == u'\n' || c == u'\r'; });
     qsizetype end = isSignAt(packed, 0) ? 1 : 0;

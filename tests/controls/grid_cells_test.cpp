@@ -267,6 +267,15 @@ TEST_F(GridCellsTest, TakeARowAtTheEnd) {
     EXPECT_EQ(row(6), QStringLiteral("|12|"));
 }
 
+TEST_F(GridCellsTest, TakeARowOfTextsThatAreDividedAlready) {
+    const QString texts[] = {QStringLiteral("Moss"), QStringLiteral("1\t1"), QStringLiteral("Kiel"),
+                             QStringLiteral("beyond")};
+    cells_.AddItem(texts);
+    EXPECT_EQ(row(4), QStringLiteral("Moss|1\t1|Kiel"));
+    cells_.AddItem(std::span(texts, 1));
+    EXPECT_EQ(row(5), QStringLiteral("Moss||"));
+}
+
 TEST_F(GridCellsTest, TakeARowInAPlaceOfItsOwn) {
     select(2, 1, 2, 1);
     cells_.setCellForeColor(kGrey);

@@ -25,7 +25,7 @@ double luminance(const QColor& colour) {
 
 // As the guidelines for accessible web content define it: 1 to 21.
 double contrast(const QColor& one, const QColor& other) {
-    const auto [darker, lighter] = std::minmax(luminance(one), luminance(other));
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 

@@ -139,10 +139,7 @@ TEST_F(SavedGroup, LocksTheWindowWhileItIsWritten) {
     });
     save("Friends");
     EXPECT_EQ(looks, 3);
-    EXPECT_FALSE(isLocked());
-    EXPECT_TRUE(isShown("lstGroup"));
-    EXPECT_FALSE(isShown("lblProc"));
-    EXPECT_EQ(textOf("lblCancel"), QString());
+    expectIdle();
 }
 
 TEST_F(SavedGroup, IsDoneWithTheMembersSoFarWhereEscIsPressed) {

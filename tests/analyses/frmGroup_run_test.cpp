@@ -162,10 +162,7 @@ TEST_F(Calculation, LocksTheWindowAndTellsHowToEndIt) {
     });
     press("cmdTransfer");
     EXPECT_EQ(looks, 3);
-    EXPECT_FALSE(isLocked());
-    EXPECT_TRUE(isShown("lstGroup"));
-    EXPECT_FALSE(isShown("lblProc"));
-    EXPECT_EQ(textOf("lblCancel"), QString());
+    expectIdle();
 }
 
 TEST_F(Calculation, EndsOnEscAfterTheNextRowWhichIsColoured) {
@@ -209,10 +206,7 @@ TEST_F(Calculation, OfAGroupWithSomebodyWhoIsGoneFailsAndFreezesTheGrid) {
     EXPECT_EQ(colour(2, 2), 0);
     EXPECT_EQ(colour(3, 5), 0);
     EXPECT_FALSE(grid().Redraw());
-    EXPECT_FALSE(isLocked());
-    EXPECT_TRUE(isShown("lstGroup"));
-    EXPECT_FALSE(isShown("lblProc"));
-    EXPECT_EQ(textOf("lblCancel"), QString());
+    expectIdle();
 }
 
 TEST_F(Calculation, LetsAFrozenGridBePaintedOnceItSucceeds) {

@@ -78,8 +78,7 @@ class GroupTest : public MainWindowTest {
     void press(const char* button) { of<PictureButton>(button).click(); }
 
     void clickTab(int item) {
-        of<ButtonBar>("bbGroup").setChosenItem(item);
-        Q_EMIT of<ButtonBar>("bbGroup").Click(1, item);
+        click(child<QWidget>(*form_, QStringLiteral("bbGroup_%1").arg(item)));
     }
 
     void add(const QString& displayText) {
@@ -126,6 +125,14 @@ class GroupTest : public MainWindowTest {
         for (const char* control : locked)
             EXPECT_EQ(isOff(control), first) << control;
         return first;
+    }
+
+    // Nothing of a run is left to be seen.
+    void expectIdle() {
+        EXPECT_FALSE(isLocked());
+        EXPECT_TRUE(isShown("lstGroup"));
+        EXPECT_FALSE(isShown("lblProc"));
+        EXPECT_EQ(textOf("lblCancel"), QString());
     }
 
     void expectMessage(const char* text) { host_.expectMessage(QString::fromUtf8(text)); }

@@ -2,32 +2,45 @@
 #include "controls/rich_text_box.h"
 
 #include <QEvent>
-#include <QTextBlock>
+#include <QFile>
 #include <QTextCursor>
 #include <QTextDocument>
-#include <QTextLayout>
 #include <algorithm>
 
-#include "controls/text_colours.h"
+#include "controls/picture_object.h"
+#include "controls/rich_text_document.h"
+#include "controls/twips.h"
+#include "rtf/rtf_reader.h"
+#include "rtf/rtf_writer.h"
 #include "runtime/errors.h"
+#include "store/file_error.h"
+#include "store/small_text.h"
+#include "store/whole_file.h"
 
 namespace {
 
 constexpr double kMargin = 8;
-
-// The colour of a text as it was set, beside the one that it is painted in.
-constexpr int kColourAsSet = QTextFormat::UserProperty;
 
 void refuseNegative(int value) {
     if (value < 0)
         throw RuntimeError(ErrorNumber::InvalidPropertyValue);
 }
 
-QTextCharFormat inColour(Long colour, const QPalette& palette) {
-    QTextCharFormat format;
-    format.setProperty(kColourAsSet, colour);
-    format.setForeground(textColour(colour, palette));
-    return format;
+// The text with CR LF as line ends, and with another text for each picture.
+QString textOf(const QTextDocument& document, QLatin1String picture) {
+    const QString lineEnd = QStringLiteral("\r\n");
+    QString text = document.toRawText();
+    text.replace(QChar::ParagraphSeparator, lineEnd);
+    text.replace(QChar::LineSeparator, lineEnd);
+    text.replace(QChar::ObjectReplacementCharacter, picture);
+    return text;
+}
+
+// The picture's size in twips, by its own dots to the metre.
+QSizeF paperSize(const QImage& picture) {
+    constexpr double kTwipsPerMetre = 1440 / 0.0254;
+    return {picture.width() * kTwipsPerMetre / picture.dotsPerMeterX(),
+            picture.height() * kTwipsPerMetre / picture.dotsPerMeterY()};
 }
 
 }  // namespace
@@ -36,16 +49,14 @@ RichTextBox::RichTextBox(QWidget* parent) : QTextEdit(parent) {
     setReadOnly(true);
     setUndoRedoEnabled(false);
     document()->setDocumentMargin(kMargin);
+    PictureObject::paintPicturesOf(*document());
+    setTabStopDistance(toPixels(kDefaultTab));
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
 }
 
 // The raw text keeps the characters as they are; the plain text has blanks for some.
 QString RichTextBox::Text() const {
-    const QString lineEnd = QStringLiteral("\r\n");
-    QString text = document()->toRawText();
-    text.replace(QChar::ParagraphSeparator, lineEnd);
-    text.replace(QChar::LineSeparator, lineEnd);
-    return text;
+    return textOf(*document(), QLatin1String(" "));
 }
 
 // A text takes over the style at the cursor, so nothing may be selected, and the style is plain.
@@ -53,6 +64,44 @@ void RichTextBox::setText(const QString& text) {
     setTextCursor(QTextCursor(document()));
     setCurrentCharFormat({});
     setPlainText(text);
+}
+
+void RichTextBox::setTextRTF(const QString& document) {
+    if (!isRtf(document)) {
+        setText(document);
+        return;
+    }
+    setTextCursor(QTextCursor(this->document()));
+    showRichText(*this->document(), readRtf(document), palette());
+    setTextCursor(QTextCursor(this->document()));
+}
+
+void RichTextBox::addPicture(const QString& fileName) {
+    if (!QFile::exists(fileName))
+        throw fileError(ErrorNumber::FileNotFound, QStringLiteral("there is no such picture"),
+                        fileName);
+    const QImage picture(fileName);
+    if (picture.isNull())
+        throw fileError(ErrorNumber::InvalidFileFormat, QStringLiteral("it is no picture"),
+                        fileName);
+    textCursor().insertImage(pictureIn(*document(), picture, paperSize(picture)));
+}
+
+void RichTextBox::SaveFile(const QString& fileName, TextFileType type) const {
+    writeWholeFile(fileName, type == TextFileType::RichText
+                                 ? writeRtf(richTextOf(*document()))
+                                 : encodeSmallText(textOf(*document(), {})));
+}
+
+void RichTextBox::wrapAsOnPaper(Long lineWidth) {
+    document()->setDocumentMargin(0);
+    document()->setUseDesignMetrics(true);
+    setLineWrapMode(QTextEdit::FixedPixelWidth);
+    setLineWrapColumnOrWidth(toPixels(lineWidth));
+}
+
+RichTextPages RichTextBox::pages(Long lineWidth) const {
+    return RichTextPages(*document(), lineWidth);
 }
 
 void RichTextBox::setSelStart(int start) {
@@ -95,7 +144,7 @@ void RichTextBox::setSelFontSize(double points) {
 }
 
 Long RichTextBox::SelColor() const {
-    return selectedFormat().intProperty(kColourAsSet);
+    return colourAsSet(selectedFormat());
 }
 
 void RichTextBox::setSelColor(Long colour) {
@@ -115,18 +164,5 @@ QTextCharFormat RichTextBox::selectedFormat() const {
 void RichTextBox::changeEvent(QEvent* event) {
     QTextEdit::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
-        followPalette();
-}
-
-void RichTextBox::followPalette() {
-    QTextCursor cursor(document());
-    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
-        for (const QTextLayout::FormatRange& run : block.textFormats()) {
-            if (!run.format.hasProperty(kColourAsSet))
-                continue;
-            cursor.setPosition(block.position() + run.start);
-            cursor.setPosition(block.position() + run.start + run.length, QTextCursor::KeepAnchor);
-            cursor.mergeCharFormat(inColour(run.format.intProperty(kColourAsSet), palette()));
-        }
-    }
+        recolour(*document(), palette());
 }

@@ -1,9 +1,12 @@
-// A box with a text in several styles, which the user reads.
+// A box with a text in several styles and with pictures, which the user reads.
 #pragma once
 
 #include <QTextEdit>
 
+#include "controls/rich_text_pages.h"
 #include "cycles/integers.h"
+
+enum class TextFileType { RichText = 0, PlainText = 1 };
 
 // Positions in the text count from 0, and a line end counts as one character. The selection is set
 // by SelStart and SelLength; the styles are those of the selected text. Read, a style is that of
@@ -18,11 +21,29 @@ class RichTextBox final : public QTextEdit {
   public:
     explicit RichTextBox(QWidget* parent = nullptr);
 
-    // The lines of the text end in CR LF, but for the last, whatever the system.
+    // The lines of the text end in CR LF, but for the last, whatever the system. A picture is a
+    // blank.
     QString Text() const;
 
     // Replaces the text; it stands in the box's own style, and nothing is selected.
     void setText(const QString& text);
+
+    // Shows a rich text document, or a text that is none as setText does.
+    void setTextRTF(const QString& document);
+
+    // Puts the picture in a file into the text at SelStart, as large as it says it is. Raises 53
+    // for a file that is gone, 321 for one that is no picture.
+    void addPicture(const QString& fileName);
+
+    // Writes the whole text into a file, which is as it was if that fails: 61 for a full disk, else
+    // 75. Plain text has no pictures.
+    void SaveFile(const QString& fileName, TextFileType type) const;
+
+    // Wraps the lines at a width in twips, as on paper, and no more at the box's own.
+    void wrapAsOnPaper(Long lineWidth);
+
+    // The text laid out for paper, in lines of so many twips.
+    RichTextPages pages(Long lineWidth) const;
 
     // Setting SelStart selects nothing; beyond the text it is the end. Both raise 380 for a
     // negative value.
@@ -46,5 +67,4 @@ class RichTextBox final : public QTextEdit {
 
   private:
     QTextCharFormat selectedFormat() const;
-    void followPalette();
 };

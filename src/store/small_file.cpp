@@ -10,6 +10,7 @@
 #include "store/file_error.h"
 #include "store/file_names.h"
 #include "store/small_text.h"
+#include "store/whole_file.h"
 
 namespace {
 
@@ -69,40 +70,29 @@ QString pathToWrite(const QString& folder, const QString& fileName) {
     return pathOf(folder, fileName);
 }
 
-RuntimeError errorOf(const QFileDevice& file) {
-    const ErrorNumber number = file.error() == QFileDevice::ResourceError
-                                   ? ErrorNumber::DiskFull
-                                   : ErrorNumber::PathFileAccess;
-    return fileError(number, file.errorString(), file.fileName());
-}
-
 }  // namespace
 
 QString readSmallFile(const QString& folder, const QString& fileName) {
     const QString path = pathOfExisting(folder, fileName);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw errorOf(file);
+        throw fileError(file);
     if (file.size() > kLargestFile)
         throw fileError(ErrorNumber::InvalidFileFormat, QStringLiteral("the file is too large"),
                         path);
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
-        throw errorOf(file);
+        throw fileError(file);
     return decodeSmallText(bytes);
 }
 
 SmallFileWriter::SmallFileWriter(const QString& folder, const QString& fileName)
     : file_(pathToWrite(folder, fileName)) {
-    if (!file_.open(QIODevice::WriteOnly))
-        throw errorOf(file_);
+    beginWholeFile(file_);
 }
 
 void SmallFileWriter::write(const QString& text) {
-    file_.write(encodeSmallText(text));
-    // To commit alone would be to rename a file that a full disk has cut short.
-    if (!file_.flush() || !file_.commit())
-        throw errorOf(file_);
+    endWholeFile(file_, encodeSmallText(text));
 }
 
 void writeSmallFile(const QString& folder, const QString& fileName, const QString& text) {
@@ -113,7 +103,7 @@ void deleteSmallFile(const QString& folder, const QString& fileName) {
     const QString path = pathOfExisting(folder, fileName);
     QFile file(path);
     if (!file.remove())
-        throw errorOf(file);
+        throw fileError(file);
 }
 
 QStringList smallFiles(const QString& folder, const QString& extension) {

@@ -3,12 +3,20 @@
 
 #include <gtest/gtest.h>
 
+#include <QImage>
+#include <QPainter>
 #include <QPushButton>
+#include <QTemporaryDir>
+#include <QTextBlock>
 #include <QTextCursor>
 #include <limits>
 
+#include "controls/rich_text_document.h"
 #include "controls/text_colours.h"
+#include "rtf/rich_text_marks.h"
+#include "rtf/rtf_reader.h"
 #include "support/errors.h"
+#include "support/files.h"
 #include "support/printing.h"
 #include "support/widget_driver.h"
 
@@ -242,4 +250,125 @@ TEST_F(RichTextBoxTest, LetsTabGoOnToTheNextControl) {
     box->setFocus();
     pressKey(*box, Qt::Key_Tab);
     EXPECT_EQ(window.focusWidget(), next);
+}
+
+namespace {
+
+const QString kDocument = QStringLiteral(
+    R"({\rtf1{\fonttbl{\f0 Arial;}}\pard\qc\b\f0\fs28 Head{\par}\pard\b0\fs20 \tab Body{\par}\qc})");
+
+class RichTextFiles : public testing::Test {
+  protected:
+    QString path(const char* name) const { return folder_.filePath(QLatin1String(name)); }
+
+    QByteArray bytesOf(const char* name) const {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
+    }
+
+    // A picture of an inch by half an inch.
+    QString picture() const {
+        QImage picture(300, 150, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        picture.setDotsPerMeterX(11811);
+        picture.setDotsPerMeterY(11811);
+        picture.save(path("picture.bmp"));
+        return path("picture.bmp");
+    }
+
+    QTemporaryDir folder_;
+    RichTextBox box_;
+};
+
+}  // namespace
+
+TEST_F(RichTextFiles, ShowADocument) {
+    box_.setTextRTF(kDocument);
+    EXPECT_EQ(marksOf(richTextOf(*box_.document())),
+              QStringList({QStringLiteral("centre:<b Arial 14>Head"),
+                           QStringLiteral("<Arial 10>\tBody"), QStringLiteral("centre:")}));
+    EXPECT_EQ(box_.Text(), u"Head\r\n\tBody\r\n");
+    EXPECT_EQ(box_.SelStart(), 0);
+}
+
+TEST_F(RichTextFiles, ShowATextThatIsNoDocumentAsItStands) {
+    box_.setTextRTF(kDocument);
+    box_.setTextRTF(QStringLiteral("{plain} \\b"));
+    EXPECT_EQ(box_.Text(), u"{plain} \\b");
+    EXPECT_FALSE(box_.SelBold());
+    box_.setTextRTF({});
+    EXPECT_EQ(box_.Text(), u"");
+}
+
+TEST_F(RichTextFiles, TakeAPictureWhereTheCaretIs) {
+    box_.setTextRTF(kDocument);
+    box_.setSelStart(static_cast<int>(kDocument.size()));
+    EXPECT_EQ(box_.SelStart(), 11);
+    box_.addPicture(picture());
+    EXPECT_EQ(box_.Text(), u"Head\r\n\tBody\r\n ");
+    EXPECT_EQ(marksOf(richTextOf(*box_.document())).last(), u"centre:[picture 1440x720]");
+}
+
+TEST_F(RichTextFiles, TakeNoPictureThatIsNone) {
+    EXPECT_EQ(errorOf([this] { box_.addPicture(path("none.bmp")); }), 53);
+    makeFile(path("text.bmp"), "no picture");
+    EXPECT_EQ(errorOf([this] { box_.addPicture(path("text.bmp")); }), 321);
+}
+
+TEST_F(RichTextFiles, ShowAPictureInItsSizeOnPaper) {
+    box_.resize(400, 300);
+    box_.addPicture(picture());
+    box_.show();
+    const QImage shown = box_.viewport()->grab().toImage();
+    int width = 0;
+    for (int x = 0; x < shown.width(); ++x)
+        width += shown.pixelColor(x, 30) == QColor(Qt::red) ? 1 : 0;
+    EXPECT_NEAR(width, 96, 1);
+}
+
+TEST_F(RichTextFiles, AreSavedWithFormatsAndPictures) {
+    box_.setTextRTF(kDocument);
+    box_.setSelStart(100);
+    box_.addPicture(picture());
+    box_.SaveFile(path("saved.rtf"), TextFileType::RichText);
+    const RichText text = readRtf(QString::fromLatin1(bytesOf("saved.rtf")));
+    EXPECT_EQ(marksOf(text), marksOf(richTextOf(*box_.document())));
+    const auto& saved = std::get<RichPicture>(text.back().runs.front().content);
+    EXPECT_EQ(QImage::fromData(saved.file).size(), QSize(300, 150));
+}
+
+TEST_F(RichTextFiles, AreSavedAsPlainTextWithoutPictures) {
+    box_.setText(QStringLiteral("Zoë\r\nŽ\r\n"));
+    box_.setSelStart(100);
+    box_.addPicture(picture());
+    box_.SaveFile(path("saved.txt"), TextFileType::PlainText);
+    EXPECT_EQ(bytesOf("saved.txt"), QByteArray("Zo\xEB\r\n\x8E\r\n"));
+}
+
+TEST_F(RichTextFiles, CannotBeSavedWhereThereIsNoFolder) {
+    EXPECT_EQ(errorOf([this] { box_.SaveFile(path("none/x.rtf"), TextFileType::RichText); }), 75);
+}
+
+TEST_F(RichTextFiles, WrapAsOnPaperHoweverWideTheBoxIs) {
+    box_.setText(QStringLiteral("word ").repeated(100));
+    box_.wrapAsOnPaper(2880);
+    for (const int width : {150, 900}) {
+        box_.resize(width, 300);
+        EXPECT_EQ(box_.document()->textWidth(), 192) << width;
+    }
+}
+
+TEST_F(RichTextFiles, WrapAsOnPaperWhereThePagesDo) {
+    box_.setText(QStringLiteral("Many a word, of more or fewer letters. ").repeated(40));
+    box_.wrapAsOnPaper(4000);
+    box_.show();
+    const int lines = box_.document()->begin().lineCount();
+    const double height = box_.document()->begin().layout()->boundingRect().height();
+    QImage sheet(10, 10, QImage::Format_RGB32);
+    QPainter painter(&sheet);
+    EXPECT_EQ(box_.pages(4000).paint(painter, {0, 0, 4000, height * 15 + 1}, 0),
+              box_.Text().size());
+    EXPECT_LT(
+        box_.pages(4000).paint(painter, {0, 0, 4000, height * 15 * (lines - 1) / lines + 1}, 0),
+        box_.Text().size());
 }

@@ -24,6 +24,11 @@ constexpr int kProgressWidth = 160;  // pixels
 constexpr int kSpaceAtEdge = 4;
 constexpr int kSpaceBetweenPanels = 12;
 
+// A slider keeps its length, whatever value is told beside it.
+void makeRoomForLongestValue(QLabel& label, const QSlider& slider) {
+    label.setMinimumWidth(label.fontMetrics().horizontalAdvance(numberText(slider.maximum())));
+}
+
 // Ticks all boxes where the button offers that, else none; then it offers the other.
 void toggleAll(QPushButton& button, std::initializer_list<QCheckBox*> boxes) {
     const QString select = QStringLiteral("Select all");
@@ -48,7 +53,7 @@ frmFind::frmFind(QWidget* owner) : Form(owner), ui_(std::make_unique<Ui::frmFind
     ui_->cbSpan->fill(entriesOf({"Days", "Weeks", "Months", "Years"}));
     ui_->cbTriple->fill(entriesOf({"Double", "Triple"}));
     ui_->dtpStart->setCustomFormat(QStringLiteral("d MMM yyyy"));
-    ui_->frameLegend->hide();
+    makeRoomForLongestValue(*ui_->lblSlider, *ui_->sldPeriod);
     connectEvents();
 }
 

@@ -1,6 +1,8 @@
 // The window of the search for events: how it opens, what its controls do, and what a row opens.
 #include "analyses/frmFind.h"
 
+#include <QCoreApplication>
+
 #include "controls/chart.h"
 #include "controls/list_box.h"
 #include "controls/month_view.h"
@@ -107,6 +109,15 @@ TEST_F(FinderWindow, HasASliderOfAHundredStepsThatTellsItsValue) {
     EXPECT_EQ(textOf("lblSlider"), QStringLiteral("6"));
     pressKey(of<QWidget>("sldPeriod"), Qt::Key_Home);
     EXPECT_EQ(textOf("lblSlider"), QStringLiteral("0"));
+}
+
+TEST_F(FinderWindow, HasASliderOfOneLengthWhateverItsValue) {
+    openFor(kAnna);
+    auto& slider = of<QSlider>("sldPeriod");
+    const int length = slider.width();
+    slider.setValue(100);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(slider.width(), length);
 }
 
 TEST_F(FinderWindow, ShowsTheSettingsThatAreInForceAndLeavesTheList) {

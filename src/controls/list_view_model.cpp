@@ -94,7 +94,6 @@ void ListViewModel::replaceRows(Rows rows, RowMaker makeRow) {
 }
 
 void ListViewModel::add(ListRow row) {
-    makeAllRows();
     const std::optional<ListRow> added = std::move(row);
     const auto place = sorting_.isOn
                            ? std::upper_bound(rows_.begin(), rows_.end(), added, RowOrder(sorting_))

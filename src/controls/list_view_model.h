@@ -50,7 +50,7 @@ class ListViewModel final : public QAbstractTableModel {
     void fill(std::vector<ListRow> rows);
 
     // The same with `count` rows, each made by its index when it is first looked at. Sorting looks
-    // at all of them, and so does adding one.
+    // at all of them.
     void fill(int count, RowMaker makeRow);
 
     // Adds a row: in its place while sorting is on, at the end otherwise.

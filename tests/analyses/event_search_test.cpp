@@ -186,6 +186,23 @@ TEST(SearchCombined, TellsPairsAndTriplesOfEachKindApart) {
     expectSharedDays(kCriticalKind, kCritical);
 }
 
+TEST(SearchCombined, FindsATripleAsLateAsItIs) {
+    EventHits hits;
+    SearchCombined(kHundredYears, 3000, true, kCriticalKind, hits, alwaysOn);
+    EXPECT_EQ(triples(hits).back(), 36088);
+}
+
+TEST(SearchCombined, LooksAtBothEndsAndTellsEachDay) {
+    EventHits hits;
+    std::vector<Long> days;
+    SearchCombined(3, kTripleLength - 3, true, kCriticalKind, hits, [&days](Long day) {
+        days.push_back(day);
+        return true;
+    });
+    EXPECT_EQ(days, (std::vector<Long>{0, 1, 2, 3}));
+    EXPECT_EQ(triples(hits), std::vector<Long>{3});
+}
+
 TEST(SearchCombined, LeavesATripleOutOfADouble) {
     EventHits hits;
     SearchCombined(5, 0, false, kCriticalKind, hits, alwaysOn);

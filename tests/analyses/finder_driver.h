@@ -13,6 +13,7 @@
 #include "controls/combo_box.h"
 #include "controls/date_picker.h"
 #include "controls/list_view.h"
+#include "controls/pictures.h"
 #include "controls/progress_bar.h"
 #include "runtime/event.h"
 #include "shell/frmMain.h"
@@ -83,6 +84,16 @@ class EventFinder : public MainWindowTest {
         for (int each = 0; each < rows(); ++each)
             texts += row(each);
         return texts;
+    }
+
+    static bool isPicture(const QPixmap& picture, const char* key) {
+        return picture.toImage() == smallPicture(QString::fromLatin1(key)).toImage();
+    }
+
+    // Whether a row begins with the picture of this key.
+    bool hasPicture(int row, const char* key) {
+        const QModelIndex first = list().model()->index(row, 0);
+        return isPicture(first.data(Qt::DecorationRole).value<QPixmap>(), key);
     }
 
     void clickRow(int row) {

@@ -21,6 +21,7 @@ TEST_F(FinderSearch, AsksForAValueAndLeavesTheListAsItIs) {
     EXPECT_EQ(columns(), 1);
     EXPECT_EQ(textOf("lblSpan"), span);
     EXPECT_EQ(host_.messages().back().icon, MessageIcon::None);
+    EXPECT_EQ(host_.messages().back().owner, form_.get());
 }
 
 TEST_F(FinderSearch, FindsTheBirthAndThePeakAWeekLater) {
@@ -62,14 +63,44 @@ TEST_F(FinderSearch, LooksForTheKindThatIsChosen) {
     of<ComboBox>("cbTriple").setListIndex(1);
     setPeriod(100, kYears);
     QStringList firstRows;
-    for (const char* kind : {"optPeak", "optLow", "optCritical"}) {
+    for (const auto& [kind, picture] : {std::pair("optPeak", "event-peak"),
+                                        {"optLow", "event-low"},
+                                        {"optCritical", "event-critical"}}) {
         check(kind);
         search();
         firstRows += row(0);
+        EXPECT_TRUE(hasPicture(0, picture)) << kind;
     }
     EXPECT_EQ(firstRows.last(), QStringLiteral("Tue, 14 March 2000"));
     EXPECT_NE(firstRows[0], firstRows[1]);
     EXPECT_FALSE(firstRows.contains(kNoneFound));
+}
+
+TEST_F(FinderSearch, ListsTheDaysThatTwoCyclesShareWithThePicturesOfTheTwo) {
+    openFor(kNewborn);
+    of<DatePicker>("dtpStart").setValue(kToday + 100);
+    check("optCritical");
+    setPeriod(6, kWeeks);
+    search();
+    EXPECT_EQ(allRows(), (QStringList{QStringLiteral("Fri, 7 July 2000"),
+                                      QStringLiteral("Tue, 18 July 2000")}));
+    EXPECT_TRUE(hasPicture(0, "event-pi"));
+    EXPECT_TRUE(hasPicture(1, "event-ep"));
+}
+
+TEST_F(FinderSearch, ShowsNothingOfAnOldResultWhileItGoesOn) {
+    openFor(kNewborn);
+    check("optCritical");
+    setPeriod(20, kWeeks);
+    search();
+    ASSERT_TRUE(isShown("frameLegend"));
+    host_.onYield([&] {
+        EXPECT_EQ(rows(), 0);
+        EXPECT_EQ(columns(), 0);
+        EXPECT_FALSE(isShown("frameLegend"));
+    });
+    search();
+    EXPECT_EQ(rows(), 2);
 }
 
 TEST_F(FinderSearch, ExplainsThePicturesOfADoubleAlone) {
@@ -137,6 +168,24 @@ TEST_F(FinderSearch, HasNoRowWhereACycleHasDaysOfOtherKindsAlone) {
     EXPECT_EQ(allRows(), QStringList{QStringLiteral("|None found|")});
 }
 
+TEST_F(FinderSearch, ListsTheKindThatIsTickedAlone) {
+    openFor(kNewborn);
+    check("chkCustom");
+    check("chkEmot");
+    setPeriod(27, kDays);
+    std::vector<QStringList> found;
+    for (const char* kind : {"chkPeak", "chkLow", "chkCritical"}) {
+        check(kind);
+        search();
+        found.push_back(allRows());
+        check(kind, false);
+    }
+    EXPECT_EQ(found, (std::vector<QStringList>{{QStringLiteral("|Tue, 21 March 2000|Peak")},
+                                               {QStringLiteral("|Tue, 4 April 2000|Low")},
+                                               {QStringLiteral("|Tue, 14 March 2000|Critical"),
+                                                QStringLiteral("|Tue, 28 March 2000|Critical")}}));
+}
+
 TEST_F(FinderSearch, ScansNothingWithoutACycle) {
     openFor(kNewborn);
     search();
@@ -190,11 +239,12 @@ TEST_F(FinderSearch, TellsWhatItSearches) {
 // Esc is pressed during the first yield: the next day is still looked at.
 TEST_F(FinderSearch, EndsAfterTheDayThatFollowsEsc) {
     openFor(kNewborn);
+    of<DatePicker>("dtpStart").setValue(kToday + 6);
     setPeriod(40, kDays);
     host_.onYield([&] { pressEsc(); });
-    search();
+    searchCycles({"chkEmot"});
     EXPECT_EQ(host_.yields(), 1);
-    EXPECT_EQ(allRows(), QStringList{kNoneFound});
+    EXPECT_EQ(allRows(), QStringList{QStringLiteral("|Tue, 21 March 2000|Peak")});
     EXPECT_TRUE(of<QWidget>("cmdFind").isEnabled());
     EXPECT_FALSE(isShown("pbFind"));
 }
@@ -214,6 +264,15 @@ TEST_F(FinderSearch, ListsWhatItFoundBeforeEscAndNothingOlder) {
                                       QStringLiteral("|Tue, 14 March 2000|Critical"),
                                       QStringLiteral("|Tue, 28 March 2000|Critical")}));
     EXPECT_GT(all, 3);
+}
+
+TEST_F(FinderSearch, IsBegunAgainByTheSameKey) {
+    openFor(kNewborn);
+    pressKey(of<QWidget>("cmdFind"), Qt::Key_Space);
+    const int yields = host_.yields();
+    EXPECT_GT(yields, 0);
+    pressKey(*form_->focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(host_.yields(), 2 * yields);
 }
 
 TEST_F(FinderSearch, GoesOnWithTheNextCycleAfterEsc) {
@@ -279,15 +338,17 @@ TEST_F(FinderSearch, EndsTheProgramBeyondTheLastYear) {
     host_.forgetExit();
 }
 
-TEST_F(FinderSearch, GivesEachRowThePictureOfItsKind) {
+TEST_F(FinderSearch, GivesEachRowThePictureOfItsCycleOrTheOneForNone) {
     openFor(kNewborn);
-    setPeriod(7, kDays);
-    searchCycles({"chkEmot"});
-    const auto decoration = [this](int row, int column) {
-        return list().model()->index(row, column).data(Qt::DecorationRole);
-    };
-    EXPECT_FALSE(decoration(0, 0).value<QPixmap>().isNull());
-    EXPECT_FALSE(decoration(0, 1).isValid());
+    of<DatePicker>("dtpStart").setValue(kToday + 7);
+    setPeriod(1, kDays);
+    searchCycles({"chkEmot", "chkPhys", "chkIntel"});
+    EXPECT_EQ(allRows(), (QStringList{QStringLiteral("|Tue, 21 March 2000|Peak"),
+                                      QStringLiteral("|None found|"),
+                                      QStringLiteral("|Wed, 22 March 2000|Peak")}));
+    EXPECT_TRUE(hasPicture(0, "event-emot"));
+    EXPECT_TRUE(hasPicture(1, "event-none"));
+    EXPECT_TRUE(hasPicture(2, "event-intel"));
 }
 
 }  // namespace

@@ -98,6 +98,17 @@ TEST_F(FinderWindow, CallsItsControlsByTheirTexts) {
               QStringLiteral("WeeksMonthsYearsTriple"));
 }
 
+TEST_F(FinderWindow, ExplainsThePicturesOfItsList) {
+    openFor(kAnna);
+    for (const auto& [label, key] : {std::pair("imgEmot", "event-emot"),
+                                     {"imgPhys", "event-phys"},
+                                     {"imgIntel", "event-intel"},
+                                     {"imgLegend1", "event-ep"},
+                                     {"imgLegend2", "event-ei"},
+                                     {"imgLegend3", "event-pi"}})
+        EXPECT_TRUE(isPicture(of<QLabel>(label).pixmap(), key)) << label;
+}
+
 TEST_F(FinderWindow, HasASliderOfAHundredStepsThatTellsItsValue) {
     openFor(kAnna);
     const auto& slider = of<QSlider>("sldPeriod");
@@ -155,6 +166,19 @@ TEST_F(FinderWindow, SelectsAllCyclesAndDeselectsThem) {
     EXPECT_TRUE(of<QAbstractButton>("chkLow").isChecked());
 }
 
+TEST_F(FinderWindow, SelectsAllWhereTheButtonOffersItAlsoIfAllAreTicked) {
+    openFor(kAnna);
+    check("chkCustom");
+    for (const char* box : {"chkEmot", "chkPhys", "chkIntel"})
+        check(box);
+    auto& button = of<QAbstractButton>("cmdSelCycle");
+    EXPECT_EQ(button.text(), QStringLiteral("Select all"));
+    button.click();
+    for (const char* box : {"chkEmot", "chkPhys", "chkIntel"})
+        EXPECT_TRUE(of<QAbstractButton>(box).isChecked()) << box;
+    EXPECT_EQ(button.text(), QStringLiteral("Deselect all"));
+}
+
 TEST_F(FinderWindow, SelectsAllKindsAndDeselectsThem) {
     openFor(kAnna);
     check("chkCustom");
@@ -195,6 +219,9 @@ TEST_F(FinderWindow, OpensTheChartOfASharedDay) {
     onNextForm<dlgBZoom>([&](dlgBZoom&) { isShownOnce = true; });
     clickRow(1);
     EXPECT_TRUE(isShownOnce);
+    const QString shown = firstDay();
+    modCycles::RedrawMainChart(kToday, DateSerial(2019, 12, 10));
+    EXPECT_EQ(shown, firstDay());
 }
 
 TEST_F(FinderWindow, DoesNothingForTheLineThatTellsOfNoEvent) {

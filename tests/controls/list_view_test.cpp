@@ -150,6 +150,9 @@ TEST_F(ListViewTest, HasARowForScreenReadersAndNoneSelectedAfterAFill) {
     view_.fill({row("abe", "3")});
     EXPECT_EQ(view_.currentIndex().row(), 0);
     EXPECT_TRUE(selectedRows().isEmpty());
+    view_.fill(2, [](int) { return row("Zed", "9"); });
+    EXPECT_EQ(view_.currentIndex().row(), 0);
+    EXPECT_TRUE(selectedRows().isEmpty());
     view_.Clear();
     EXPECT_FALSE(view_.currentIndex().isValid());
 }

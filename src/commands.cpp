@@ -18,6 +18,8 @@
 #include "records/frmCategory.h"
 #include "records/frmExplore.h"
 #include "records/frmZoom.h"
+#include "reports/dlgScreenPrinter.h"
+#include "reports/frmDailyReport.h"
 #include "runtime/event.h"
 #include "runtime/host.h"
 #include "shell/favourites_menu.h"
@@ -93,7 +95,25 @@ void Commands::mnuFind_Click() {
 }
 
 void Commands::mnuReport_Click() {
-    isPersonChosen(needOfAPerson());
+    if (!isPersonChosen(needOfAPerson()))
+        return;
+    modCycles::ReportToScreen = true;
+    dlgScreenPrinter(&window_).ShowModal();
+    if (modCycles::ReportToScreen || isPrinterReady())
+        openSlowForm<frmDailyReport>();
+}
+
+bool Commands::isPrinterReady() {
+    const Message question{
+        .text = QStringLiteral(
+            "Ondara needs to communicate with the printer to collect information. Make sure the "
+            "printer is switched on, or a printer error will occur.\n\nDo you wish to "
+            "continue?"),
+        .title = QStringLiteral("Printer communication"),
+        .icon = MessageIcon::Information,
+        .buttons = MessageButtons::YesNo,
+        .owner = &window_};
+    return host().showMessage(question) == Answer::Yes;
 }
 
 // The card opens for whoever is selected; with nobody selected, reading the number fails.

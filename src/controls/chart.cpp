@@ -7,9 +7,12 @@
 #include <QToolTip>
 #include <utility>
 
+#include "controls/bitmap.h"
 #include "controls/chart_painter.h"
+#include "controls/paper.h"
 #include "controls/twips.h"
 #include "runtime/errors.h"
+#include "runtime/host.h"
 
 Chart::Chart(QWidget* parent) : QWidget(parent) {
     setMouseTracking(true);
@@ -97,6 +100,26 @@ void Chart::setSeriesPattern(int series, PenPattern pattern) {
     update();
 }
 
+void Chart::setNegativeBars(bool are) {
+    content_.hasNegativeBars = are;
+    update();
+}
+
+void Chart::setPenColour(int series, const QColor& colour) {
+    seriesAt(series).penColour = colour;
+    update();
+}
+
+void Chart::setBrush(int series, const ChartBrush& brush) {
+    seriesAt(series).brush = brush;
+    update();
+}
+
+void Chart::setEdgeColour(int series, const QColor& colour) {
+    seriesAt(series).edgeColour = colour;
+    update();
+}
+
 void Chart::setTitle(const QString& title) {
     content_.title = title;
     update();
@@ -120,6 +143,19 @@ QPixmap Chart::picture(double enlargement) const {
     QPainter painter(&picture);
     paintChart(painter, content_, colours, enlargement / kTwipsPerPixel);
     return picture;
+}
+
+void Chart::EditCopy() const {
+    constexpr double kDotsPerInch = 300;
+    constexpr double kInchesPerMetre = 1 / 0.0254;
+    constexpr double kDotsPerTwip = kDotsPerInch / kTwipsPerInch;
+    QImage picture((content_.size * kDotsPerTwip).toSize(), QImage::Format_RGB32);
+    picture.setDotsPerMeterX(qRound(kDotsPerInch * kInchesPerMetre));
+    picture.setDotsPerMeterY(qRound(kDotsPerInch * kInchesPerMetre));
+    QPainter painter(&picture);
+    paintChart(painter, content_, chartColours(paperPalette()), kDotsPerTwip);
+    painter.end();
+    host().setClipboardBitmap(bitmapOf(picture));
 }
 
 MousePointerShape Chart::MousePointer() const {

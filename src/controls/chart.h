@@ -42,10 +42,17 @@ class Chart final : public QWidget {
     // The font of the legend, which all texts of the chart share.
     void setLegendFont(const QString& family, int points);
 
-    // These three raise 381 for a series beyond the seventh.
+    // Makes room for bars of negative values.
+    void setNegativeBars(bool are);
+
+    // These raise 381 for a series beyond the seventh. The colours of a pen, a brush and an edge
+    // are drawn as they are, whatever the palette.
     void setLegendText(int series, const QString& text);
     void setSeriesColour(int series, CycleColour colour);
     void setSeriesPattern(int series, PenPattern pattern);
+    void setPenColour(int series, const QColor& colour);
+    void setBrush(int series, const ChartBrush& brush);
+    void setEdgeColour(int series, const QColor& colour);
 
     // The title stands at the top, shortened where it does not fit.
     void setTitle(const QString& title);
@@ -55,6 +62,10 @@ class Chart final : public QWidget {
 
     // The chart as it stands, so many times as large as on the screen.
     QPixmap picture(double enlargement) const;
+
+    // Copies the chart to the clipboard as it is drawn on paper: on white, with 300 dots to the
+    // inch.
+    void EditCopy() const;
 
     MousePointerShape MousePointer() const;
     void setMousePointer(MousePointerShape shape);

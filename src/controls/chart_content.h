@@ -1,6 +1,7 @@
 // What a chart shows, as plain data.
 #pragma once
 
+#include <QColor>
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
@@ -24,18 +25,36 @@ enum class ChartType { Bars = 1, Lines = 3 };
 
 enum class PenPattern { Solid = 1, Dashed = 2, Dotted = 3, Ditted = 6 };
 
+enum class BrushStyle { Solid = 1, Pattern = 2 };
+
+// What a bar is filled with. A pattern is a hatch in its own colour on the fill, known by its
+// number in chart_hatch.h.
+struct ChartBrush {
+    QColor fill;
+    BrushStyle style = BrushStyle::Solid;
+    int hatch = 0;
+    QColor patternColour = {};
+
+    friend bool operator==(const ChartBrush&, const ChartBrush&) = default;
+};
+
+// A series is drawn in the shade of its cycle, or as its pen, brush and edge have it.
 struct ChartSeries {
     QString legendText = {};
     CycleColour colour = CycleColour::Emotional;
     PenPattern pattern = PenPattern::Solid;
+    std::optional<QColor> penColour = {};
+    std::optional<ChartBrush> brush = {};
+    std::optional<QColor> edgeColour = {};
 };
 
 enum class LegendLocation { Right = 4, Bottom = 7 };
 
-// A chart of values of per cent: lines from -100 to 100, or bars from 0 to 100. Lengths are twips
-// from the top left corner.
+// A chart of values of per cent: lines from -100 to 100, or bars from 0 or from -100 to 100.
+// Lengths are twips from the top left corner.
 struct ChartContent {
     ChartType type = ChartType::Lines;
+    bool hasNegativeBars = false;
     QSizeF size;
     QRectF plotArea;  // the rows lie in it as bands of equal width
     ChartTable table;

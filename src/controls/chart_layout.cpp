@@ -34,7 +34,7 @@ constexpr double kBarGroupShare = 0.8;
 constexpr double kBarShare = 0.75;
 
 const Axis& axisOf(const ChartContent& content) {
-    return content.type == ChartType::Bars ? kBarAxis : kLineAxis;
+    return content.type == ChartType::Bars && !content.hasNegativeBars ? kBarAxis : kLineAxis;
 }
 
 int rowsOf(const ChartContent& content) {
@@ -74,7 +74,8 @@ ChartBar barOf(const ChartContent& content, int row, int series) {
     const double value =
         content.table.columns[static_cast<std::size_t>(series)][static_cast<std::size_t>(row)];
     return {series, QRectF(QPointF(left, valueHeight(content, value)),
-                           QPointF(left + place * kBarShare, valueHeight(content, 0)))};
+                           QPointF(left + place * kBarShare, valueHeight(content, 0)))
+                        .normalized()};
 }
 
 std::vector<ChartBar> barsOf(const ChartContent& content) {

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "controls/chart_hatch.h"
 #include "controls/chart_layout.h"
 #include "controls/colour_mix.h"
 
@@ -60,15 +61,16 @@ class ChartSketch {
     QPen hairline(const QColor& colour) const;
     const QColor& colourOf(std::size_t series) const;
     QPen penOf(std::size_t series) const;
-    QPen samplePenOf(std::size_t series) const;
 
     void paintMark();
     void paintGrid();
     void paintRowAxis();
     void paintBars();
+    void paintBar(const QRectF& box, std::size_t series);
     void paintCurves();
     void paintMarkers();
     void paintLegend();
+    void paintSample(const QLineF& sample, std::size_t series);
     void paintTitle();
 
     QPainter& painter_;
@@ -120,7 +122,9 @@ QPen ChartSketch::hairline(const QColor& colour) const {
 }
 
 const QColor& ChartSketch::colourOf(std::size_t series) const {
-    return colours_.cycles[static_cast<std::size_t>(content_.series[series].colour)];
+    const ChartSeries& drawn = content_.series[series];
+    return drawn.penColour ? *drawn.penColour
+                           : colours_.cycles[static_cast<std::size_t>(drawn.colour)];
 }
 
 QPen ChartSketch::penOf(std::size_t series) const {
@@ -128,12 +132,6 @@ QPen ChartSketch::penOf(std::size_t series) const {
     if (const QList<qreal> pattern = dashes(content_.series[series].pattern); !pattern.isEmpty())
         pen.setDashPattern(pattern);
     return pen;
-}
-
-QPen ChartSketch::samplePenOf(std::size_t series) const {
-    if (content_.type == ChartType::Lines)
-        return penOf(series);
-    return QPen(colourOf(series), pixels(kBarSampleWidth), Qt::SolidLine, Qt::FlatCap);
 }
 
 void ChartSketch::paintMark() {
@@ -190,8 +188,21 @@ void ChartSketch::paintBars() {
     painter_.save();
     painter_.setClipRect(pixels(content_.plotArea));
     for (const ChartBar& bar : layout_.bars)
-        painter_.fillRect(pixels(bar.box), colourOf(static_cast<std::size_t>(bar.series)));
+        paintBar(pixels(bar.box), static_cast<std::size_t>(bar.series));
     painter_.restore();
+}
+
+void ChartSketch::paintBar(const QRectF& box, std::size_t series) {
+    const std::optional<ChartBrush>& brush = content_.series[series].brush;
+    painter_.fillRect(box, brush ? brush->fill : colourOf(series));
+    if (brush && brush->style == BrushStyle::Pattern)
+        paintHatch(painter_, box, *brush, scale_);
+    if (const std::optional<QColor>& edge = content_.series[series].edgeColour) {
+        painter_.setPen(
+            QPen(*edge, pixels(kHairline), Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter_.setBrush(Qt::NoBrush);
+        painter_.drawRect(box);
+    }
 }
 
 void ChartSketch::paintCurves() {
@@ -224,12 +235,21 @@ void ChartSketch::paintMarkers() {
 void ChartSketch::paintLegend() {
     for (const ChartLegendEntry& entry : layout_.legend) {
         const auto series = static_cast<std::size_t>(entry.series);
-        painter_.setPen(samplePenOf(series));
-        painter_.drawLine(pixels(entry.sample.p1()), pixels(entry.sample.p2()));
+        paintSample(entry.sample, series);
         painter_.setPen(colours_.text);
         painter_.drawText(pixels(entry.textBox),
                           Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip,
                           content_.series[series].legendText);
+    }
+}
+
+void ChartSketch::paintSample(const QLineF& sample, std::size_t series) {
+    if (content_.type == ChartType::Bars) {
+        const QPointF half(0, kBarSampleWidth / 2);
+        paintBar(pixels(QRectF(sample.p1() - half, sample.p2() + half)), series);
+    } else {
+        painter_.setPen(penOf(series));
+        painter_.drawLine(pixels(sample.p1()), pixels(sample.p2()));
     }
 }
 

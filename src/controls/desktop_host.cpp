@@ -1,16 +1,23 @@
-// The desktop's help, message boxes, beep and event queue.
+// The desktop's help, boxes, clipboard, printer, beep and event queue.
 #include "controls/desktop_host.h"
 
 #include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
 #include <QGridLayout>
 #include <QMessageBox>
+#include <QPrinter>
+#include <QPrinterInfo>
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
 #include <chrono>
 
+#include "controls/bitmap.h"
 #include "controls/help_folder.h"
 #include "controls/help_window.h"
+#include "controls/paper_printer.h"
+#include "runtime/errors.h"
 #include "runtime/system_help.h"
 
 namespace {
@@ -111,6 +118,44 @@ Answer DesktopHost::showMessage(const Message& message) {
     box.setStandardButtons(buttonsOf(message.buttons));
     makeRoomForTitle(box);
     return answerOf(box.exec());
+}
+
+std::optional<ChosenFile> DesktopHost::chooseFile(const FileQuestion& question) {
+    QFileDialog dialog(windowOf(question.owner), question.title, question.folder);
+    dialog.setAcceptMode(question.purpose == FilePurpose::Save ? QFileDialog::AcceptSave
+                                                               : QFileDialog::AcceptOpen);
+    dialog.setFileMode(question.purpose == FilePurpose::Save ? QFileDialog::AnyFile
+                                                             : QFileDialog::ExistingFile);
+    dialog.setNameFilters(question.filters);
+    dialog.setDefaultSuffix(question.defaultExtension);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !question.asksBeforeOverwriting);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    const qsizetype filter = question.filters.indexOf(dialog.selectedNameFilter());
+    return ChosenFile{.path = dialog.selectedFiles().constFirst(),
+                      .filterIndex = static_cast<int>(filter) + 1};
+}
+
+std::optional<QByteArray> DesktopHost::clipboardBitmap() {
+    const QImage picture = QApplication::clipboard()->image();
+    return picture.isNull() ? std::nullopt : std::optional(bitmapOf(picture));
+}
+
+void DesktopHost::setClipboardBitmap(const QByteArray& file) {
+    QApplication::clipboard()->setImage(pictureOf(file));
+}
+
+void DesktopHost::clearClipboard() {
+    QApplication::clipboard()->clear();
+}
+
+// Qt takes a file for a printer where there is none.
+std::unique_ptr<Printer> DesktopHost::printer() {
+    const QPrinterInfo info = QPrinterInfo::defaultPrinter();
+    if (info.isNull())
+        throw RuntimeError(ErrorNumber::Printer);
+    return std::make_unique<PaperPrinter>(
+        std::make_unique<QPrinter>(info, QPrinter::HighResolution));
 }
 
 void DesktopHost::beep() {

@@ -1,5 +1,5 @@
-// The host of the desktop: the machine's, with the desktop's help, message boxes, beep and event
-// queue.
+// The host of the desktop: the machine's, with the desktop's help, boxes, clipboard, printer, beep
+// and event queue.
 #pragma once
 
 #include <memory>
@@ -16,6 +16,11 @@ class DesktopHost final : public MachineHost {
 
     void showHelp(QObject* owner, const QString& fileName) override;
     Answer showMessage(const Message& message) override;
+    std::optional<ChosenFile> chooseFile(const FileQuestion& question) override;
+    std::optional<QByteArray> clipboardBitmap() override;
+    void setClipboardBitmap(const QByteArray& file) override;
+    void clearClipboard() override;
+    std::unique_ptr<Printer> printer() override;
     void beep() override;
     void yield() override;
     void paintWindows() override;

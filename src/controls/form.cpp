@@ -93,9 +93,24 @@ bool Form::eventFilter(QObject* watched, QEvent* event) {
     auto& key = static_cast<QKeyEvent&>(*event);
     key.ignore();
     runEvent([&] { Form_KeyDown(key); });
+    if (!key.isAccepted())
+        pressDefaultButton(key);
     const bool wasUsed = key.isAccepted();
     key.accept();
     return wasUsed;
+}
+
+void Form::setDefaultButton(QPushButton& button) {
+    button.setDefault(true);
+    defaultButton_ = &button;
+}
+
+void Form::pressDefaultButton(QKeyEvent& key) {
+    const bool isEnter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    if (!isEnter || !defaultButton_ || qobject_cast<QPushButton*>(focusWidget()))
+        return;
+    key.accept();
+    defaultButton_->click();
 }
 
 void Form::work(const std::function<void()>& steps) {

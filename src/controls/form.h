@@ -6,10 +6,12 @@
 #include <vector>
 
 class QKeyEvent;
+class QPushButton;
 
 // A form is loaded before it is shown and unloaded when it closes, however it closes. Keys reach
 // Form_KeyDown before the control that has the focus. Esc closes nothing by itself, and Enter
-// presses nothing but a button that has the focus. A button that is pressed takes the focus first,
+// presses nothing but a button that has the focus, or else the default button of a form that has
+// one. A button that is pressed takes the focus first,
 // so that whichever control had it has heard that it lost it.
 //
 // Work of many steps may yield between them, so that the window stays alive. A window that is
@@ -58,6 +60,9 @@ class Form : public QWidget {
     // The window was closed during work, which is to end as soon as it can.
     virtual void Form_Cancel() {}
 
+    // Makes Enter press a button, wherever the focus is but on another button.
+    void setDefaultButton(QPushButton& button);
+
     // Does work that yields.
     void work(const std::function<void()>& steps);
     bool isAtWork() const { return atWork_; }
@@ -70,8 +75,10 @@ class Form : public QWidget {
 
   private:
     bool seesFirst(QObject* receiver) const;
+    void pressDefaultButton(QKeyEvent& key);
     void closeAfterWork();
 
+    QPushButton* defaultButton_ = nullptr;  // a child, or none
     bool loaded_ = false;
     bool atWork_ = false;
     bool closing_ = false;

@@ -6,26 +6,16 @@
 #include <QTextBlock>
 #include <algorithm>
 
+#include "controls/paper.h"
 #include "controls/picture_object.h"
 #include "controls/rich_text_document.h"
 #include "controls/twips.h"
-
-namespace {
-
-QPalette paper() {
-    QPalette palette;
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::Text, Qt::black);
-    return palette;
-}
-
-}  // namespace
 
 RichTextPages::RichTextPages(const QTextDocument& document, double lineWidth)
     : document_(document.clone()) {
     document_->documentLayout()->setPaintDevice(&paperMeasure());
     PictureObject::paintPicturesOf(*document_);
-    recolour(*document_, paper());
+    recolour(*document_, paperPalette());
     document_->setDocumentMargin(0);
     document_->setUseDesignMetrics(true);
     document_->setTextWidth(lineWidth / kTwipsPerPixel);
@@ -68,20 +58,9 @@ Long RichTextPages::paint(QPainter& painter, const QRectF& place, Long from) con
     painter.translate(place.left() / kTwipsPerPixel, place.top() / kTwipsPerPixel - first->top);
     painter.setClipRect(painted);
     QAbstractTextDocumentLayout::PaintContext context;
-    context.palette = paper();
+    context.palette = paperPalette();
     context.clip = painted;
     document_->documentLayout()->draw(&painter, context);
     painter.restore();
     return behind == lines_.end() ? end_ : behind->start;
-}
-
-QPaintDevice& paperMeasure() {
-    constexpr int kDotsPerMetre = 3780;  // 96 to the inch
-    static QImage image = [] {
-        QImage dot(1, 1, QImage::Format_RGB32);
-        dot.setDotsPerMeterX(kDotsPerMetre);
-        dot.setDotsPerMeterY(kDotsPerMetre);
-        return dot;
-    }();
-    return image;
 }

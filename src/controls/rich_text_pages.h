@@ -1,7 +1,6 @@
 // A document laid out for paper.
 #pragma once
 
-#include <QImage>
 #include <QRectF>
 #include <QTextDocument>
 #include <memory>
@@ -38,6 +37,3 @@ class RichTextPages {
     std::vector<Line> lines_;
     Long end_ = 0;
 };
-
-// What a length on paper is measured with: an inch is 96 pixels, whatever screen there is.
-QPaintDevice& paperMeasure();

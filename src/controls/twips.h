@@ -2,6 +2,7 @@
 #pragma once
 
 inline constexpr int kTwipsPerPixel = 15;
+inline constexpr int kTwipsPerInch = 1440;
 
 // A length, not negative, in the nearest whole pixels.
 constexpr int toPixels(double twips) {

@@ -1,13 +1,17 @@
 // The one seam to the machine and the desktop.
 #pragma once
 
+#include <QByteArray>
 #include <QLocale>
 #include <QString>
+#include <memory>
 #include <optional>
 
 #include "cycles/date.h"
 #include "cycles/integers.h"
+#include "runtime/file_question.h"
 #include "runtime/message.h"
+#include "runtime/printer.h"
 #include "runtime/registry_value.h"
 
 // Everything that Ondara asks of the machine it runs on: the clock, the locale, the program's
@@ -54,6 +58,20 @@ class Host {
 
     // Shows the message box and waits for the answer.
     virtual Answer showMessage(const Message& message) = 0;
+
+    // Asks the user for a file; nothing if there is to be none.
+    virtual std::optional<ChosenFile> chooseFile(const FileQuestion& question) = 0;
+
+    // The picture on the clipboard, as the contents of a BMP file; nothing if there is none.
+    virtual std::optional<QByteArray> clipboardBitmap() = 0;
+
+    // Puts such a picture on the clipboard in place of whatever is there.
+    virtual void setClipboardBitmap(const QByteArray& file) = 0;
+
+    virtual void clearClipboard() = 0;
+
+    // The system's default printer. Raises 482 (Printer error) if there is none.
+    virtual std::unique_ptr<Printer> printer() = 0;
 
     // Sounds the system's beep.
     virtual void beep() = 0;

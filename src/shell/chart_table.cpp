@@ -21,4 +21,10 @@ void addCycleColumns(ChartTable& table, std::span<const ChartDay> days) {
     }
 }
 
+void addAverageColumn(ChartTable& table, std::span<const ChartDay> days) {
+    std::vector<double>& averages = table.columns.emplace_back();
+    for (const ChartDay& day : days)
+        averages.push_back(day.values.average());
+}
+
 }  // namespace modCycles

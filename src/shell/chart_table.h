@@ -14,4 +14,7 @@ QStringList dateLabels(std::span<const ChartDay> days);
 // Adds a column for each cycle: emotional, physical, intellectual.
 void addCycleColumns(ChartTable& table, std::span<const ChartDay> days);
 
+// Adds a column for the average of the three.
+void addAverageColumn(ChartTable& table, std::span<const ChartDay> days);
+
 }  // namespace modCycles

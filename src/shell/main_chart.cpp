@@ -21,9 +21,7 @@ enum Series { kEmotional = 1, kPhysical, kIntellectual, kAverage };
 ChartTable tableOf(std::span<const ChartDay> days) {
     ChartTable table{.rowLabels = dateLabels(days), .columns = {}};
     addCycleColumns(table, days);
-    std::vector<double>& averages = table.columns.emplace_back();
-    for (const ChartDay& day : days)
-        averages.push_back(day.values.average());
+    addAverageColumn(table, days);
     return table;
 }
 

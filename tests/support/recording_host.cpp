@@ -21,6 +21,8 @@ RecordingHost::~RecordingHost() {
         ADD_FAILURE() << "This program was to be started: " << qPrintable(expected.path);
     for (const QString& fileName : expectedHelp_)
         ADD_FAILURE() << "This help was to be shown: " << qPrintable(fileName);
+    if (!expectedFiles_.empty())
+        ADD_FAILURE() << "A file was to be asked for.";
 }
 
 void RecordingHost::expectMessage(const QString& text, Answer answer) {
@@ -94,6 +96,23 @@ Answer RecordingHost::showMessage(const Message& message) {
     const Answer answer = expected_.front().answer;
     expected_.erase(expected_.begin());
     return answer;
+}
+
+std::optional<ChosenFile> RecordingHost::chooseFile(const FileQuestion& question) {
+    fileQuestions_.push_back(question);
+    if (expectedFiles_.empty()) {
+        ADD_FAILURE() << "An unexpected question for a file: " << qPrintable(question.title);
+        return std::nullopt;
+    }
+    const std::optional<ChosenFile> answer = expectedFiles_.front();
+    expectedFiles_.erase(expectedFiles_.begin());
+    return answer;
+}
+
+std::unique_ptr<Printer> RecordingHost::printer() {
+    if (!onPrinter_)
+        throw RuntimeError(ErrorNumber::Printer);
+    return onPrinter_();
 }
 
 void RecordingHost::paintWindows() {

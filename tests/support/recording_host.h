@@ -41,6 +41,19 @@ class RecordingHost final : public Host {
     // Ends the record of an end of the process that the test has looked at.
     void forgetExit() { exitCode_.reset(); }
 
+    // The next question for a file gets this answer: a file and the filter chosen, or none.
+    void expectFileQuestion(std::optional<ChosenFile> answer) { expectedFiles_.push_back(answer); }
+
+    // The questions for files asked so far.
+    const std::vector<FileQuestion>& fileQuestions() const { return fileQuestions_; }
+
+    // What is on the clipboard; nothing for an empty one.
+    const std::optional<QByteArray>& clipboard() const { return clipboard_; }
+    void setClipboard(std::optional<QByteArray> bitmap) { clipboard_ = std::move(bitmap); }
+
+    // Where printers come from; there is none at first.
+    void onPrinter(std::function<std::unique_ptr<Printer>()> make) { onPrinter_ = std::move(make); }
+
     int beeps() const { return beeps_; }
 
     int yields() const { return yields_; }
@@ -72,6 +85,11 @@ class RecordingHost final : public Host {
     void startProgram(const QString& path) override;
     void showHelp(QObject* owner, const QString& fileName) override;
     Answer showMessage(const Message& message) override;
+    std::optional<ChosenFile> chooseFile(const FileQuestion& question) override;
+    std::optional<QByteArray> clipboardBitmap() override { return clipboard_; }
+    void setClipboardBitmap(const QByteArray& file) override { clipboard_ = file; }
+    void clearClipboard() override { clipboard_.reset(); }
+    std::unique_ptr<Printer> printer() override;
     void beep() override { ++beeps_; }
     void yield() override;
     void paintWindows() override;
@@ -96,8 +114,12 @@ class RecordingHost final : public Host {
     std::vector<Expected> expected_;  // those still to come, in order
     std::vector<Message> messages_;
     std::map<std::tuple<Long, QString, QString>, RegistryValue> registry_;
-    std::vector<ExpectedStart> expectedStarts_;  // those still to come, in order
-    std::vector<QString> expectedHelp_;          // those still to come, in order
+    std::vector<ExpectedStart> expectedStarts_;             // those still to come, in order
+    std::vector<std::optional<ChosenFile>> expectedFiles_;  // those still to come, in order
+    std::vector<FileQuestion> fileQuestions_;
+    std::optional<QByteArray> clipboard_;
+    std::function<std::unique_ptr<Printer>()> onPrinter_;
+    std::vector<QString> expectedHelp_;  // those still to come, in order
     std::optional<int> exitCode_;
     int beeps_ = 0;
     int yields_ = 0;

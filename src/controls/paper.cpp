@@ -1,0 +1,22 @@
+// The colours and the measure of paper.
+#include "controls/paper.h"
+
+#include <QImage>
+
+QPalette paperPalette() {
+    QPalette palette;
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, Qt::black);
+    return palette;
+}
+
+QPaintDevice& paperMeasure() {
+    constexpr int kDotsPerMetre = 3780;  // 96 to the inch
+    static QImage dot = [] {
+        QImage image(1, 1, QImage::Format_RGB32);
+        image.setDotsPerMeterX(kDotsPerMetre);
+        image.setDotsPerMeterY(kDotsPerMetre);
+        return image;
+    }();
+    return dot;
+}

@@ -108,6 +108,12 @@ void Grid::paintEvent(QPaintEvent* event) {
         QPainter(viewport()).drawPixmap(0, 0, frozenCells_);
 }
 
+void Grid::AddItem(QStringView texts, int place) {
+    const QScopedValueRollback changing(changing_, true);
+    model_.AddItem(texts, place);
+    showCurrentRow();
+}
+
 void Grid::Refresh() {
     if (!redraw_)
         return;

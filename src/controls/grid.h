@@ -34,6 +34,10 @@ class Grid final : public QTableView {
         model_.change(steps);
     }
 
+    // Adds a row, as GridCells::AddItem. Header and widths are not measured anew, so that to add
+    // rows one by one costs less than to change the cells as often.
+    void AddItem(QStringView texts, int place);
+
     // While it is off, the grid shows the picture of the moment when it was put off.
     bool Redraw() const { return redraw_; }
     void setRedraw(bool redraw);

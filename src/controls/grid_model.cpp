@@ -13,6 +13,17 @@ Qt::Alignment alignmentOf(ColumnAlignment alignment) {
 
 }  // namespace
 
+void GridModel::AddItem(QStringView texts, int place) {
+    if (place < cells_.FixedRows() || place > cells_.Rows()) {
+        change([&](GridCells& cells) { cells.AddItem(texts, place); });
+        return;
+    }
+    const int row = place - cells_.FixedRows();
+    beginInsertRows({}, row, row);
+    cells_.AddItem(texts, place);
+    endInsertRows();
+}
+
 void GridModel::select(const QModelIndex& cell) {
     cells_.setRow(gridRow(cell));
     cells_.setCol(cell.column());

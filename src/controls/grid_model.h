@@ -21,6 +21,9 @@ class GridModel final : public QAbstractTableModel {
         steps(cells_);
     }
 
+    // Adds a row, as GridCells::AddItem. Below the header nothing else is read anew for it.
+    void AddItem(QStringView texts, int place);
+
     // Follows a view to the cell on which the user is.
     void select(const QModelIndex& cell);
 

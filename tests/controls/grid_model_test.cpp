@@ -57,6 +57,36 @@ TEST_F(GridModelTest, HasALineInTheHeaderForEachFixedRow) {
     EXPECT_EQ(header(1), QStringLiteral("Age\n+"));
 }
 
+TEST_F(GridModelTest, TellsOfARowThatIsAddedAndOfNothingElse) {
+    const QSignalSpy inserted(&model_, &QAbstractItemModel::rowsInserted);
+    const QSignalSpy reset(&model_, &QAbstractItemModel::modelReset);
+    model_.AddItem(u"Ben\t8", 2);
+    model_.AddItem(u"Last\t7", 4);
+    ASSERT_EQ(inserted.count(), 2);
+    EXPECT_EQ(inserted[0][1].toInt(), 1);
+    EXPECT_EQ(inserted[0][2].toInt(), 1);
+    EXPECT_EQ(reset.count(), 0);
+    ASSERT_EQ(model_.rowCount(), 4);
+    EXPECT_EQ(model_.index(1, 0).data().toString(), QStringLiteral("Ben"));
+    EXPECT_EQ(model_.index(3, 1).data().toString(), QStringLiteral("7"));
+}
+
+TEST_F(GridModelTest, IsResetByARowThatIsAddedToItsHeader) {
+    const QSignalSpy reset(&model_, &QAbstractItemModel::modelReset);
+    model_.AddItem(u"Who\tYears", 0);
+    EXPECT_EQ(reset.count(), 1);
+    EXPECT_EQ(header(0), QStringLiteral("Who"));
+    EXPECT_EQ(model_.rowCount(), 3);
+}
+
+TEST_F(GridModelTest, AddsNoRowBeyondItsLast) {
+    const QSignalSpy begun(&model_, &QAbstractItemModel::rowsAboutToBeInserted);
+    for (const int place : {-1, 4})
+        EXPECT_EQ(errorOf([&] { model_.AddItem(u"Ben\t8", place); }), 381);
+    EXPECT_EQ(begun.count(), 0);
+    EXPECT_EQ(model_.rowCount(), 2);
+}
+
 TEST_F(GridModelTest, IsEmptyBeforeAnythingIsBound) {
     GridModel model;
     EXPECT_EQ(model.rowCount(), 0);

@@ -5,6 +5,7 @@
 
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTest>
 
 #include "controls/twips.h"
@@ -194,6 +195,21 @@ TEST_F(GridTest, TellsOfTheMouseOverCells) {
     EXPECT_EQ(lastPlace_.y(), toTwips(cellView().y() + place.y()));
     releaseMouse(cellView(), place);
     EXPECT_EQ(told_, list({"down", "up"}));
+}
+
+TEST_F(GridTest, AddsARowWithoutAResetAndStaysOnTheCurrentCell) {
+    grid_.change([](GridCells& cells) {
+        cells.setRow(2);
+        cells.setCol(1);
+    });
+    const QSignalSpy reset(grid_.model(), &QAbstractItemModel::modelReset);
+    grid_.AddItem(u"Ben\t7\tBath", 1);
+    EXPECT_EQ(grid_.cells().TextMatrix(1, 0), QStringLiteral("Ben"));
+    EXPECT_EQ(grid_.cells().Row(), 2);
+    EXPECT_EQ(grid_.cells().Col(), 1);
+    EXPECT_EQ(grid_.currentIndex().row(), 1);
+    EXPECT_TRUE(grid_.selectionModel()->isRowSelected(1));
+    EXPECT_EQ(reset.count(), 0);
 }
 
 TEST_F(GridTest, TellsOfTheMouseOverTheHeaderAndLeavesTheCurrentCell) {

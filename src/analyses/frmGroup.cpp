@@ -6,8 +6,8 @@
 #include <QToolButton>
 
 #include "analyses/group_cells.h"
+#include "analyses/group_comparison.h"
 #include "analyses/group_lists.h"
-#include "analyses/group_row.h"
 #include "controls/button_menu.h"
 #include "runtime/app.h"
 #include "runtime/event.h"
@@ -55,7 +55,6 @@ void frmGroup::setUpControls() {
     QSizePolicy policy = ui_->lstGroup->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     ui_->lstGroup->setSizePolicy(policy);
-    ui_->dtpGroup->setCustomFormat(QStringLiteral("d MMMM yyyy"));
     ui_->grdGroup->change(clearGroup);
     ui_->lblProc->hide();
     favesMenu_ = new ButtonMenu(this);
@@ -216,7 +215,7 @@ void frmGroup::tbGroup_ButtonMenuClick(int index) {
 void frmGroup::run(const std::function<void()>& steps) {
     const QPointer<QWidget> focused = focusWidget();
     work(steps);
-    if (focused && focused->isEnabled())
+    if (focused)
         focused->setFocus(Qt::PopupFocusReason);
 }
 
@@ -246,10 +245,10 @@ void frmGroup::LockEm(bool sett) {
         ui_->bbGroup->setItemEnabled(item, !sett);
 }
 
-void frmGroup::forEachMember(const std::function<void(int member)>& step) {
+void frmGroup::forEachMember(const RecordTaker& step) {
     for (int member = 0; member < ui_->lstGroup->ListCount(); ++member) {
         ui_->lstGroup->setListIndex(member);
-        step(member);
+        step({ui_->lstGroup->ItemData(member), ui_->lstGroup->Text()});
         if (CancelGroup_)
             return;
         host().yield();
@@ -274,27 +273,10 @@ void frmGroup::calculate() {
         return;
     }
     startRun();
-    startGrid();
-    Connection connection = openPersonDatabase();
-    forEachMember([&](int member) {
-        const QString row = rowOf(connection, member);
-        ui_->grdGroup->change([&](GridCells& cells) { addGroupRow(cells, row, member); });
-    });
-    SetGrid();
-    ui_->grdGroup->setRedraw(true);
+    GroupComparison comparison(*ui_->grdGroup, ui_->dtpGroup->Value());
+    forEachMember([&](const PersonRecord& member) { comparison.Add(member); });
+    comparison.Finish();
     endRun();
-}
-
-void frmGroup::startGrid() {
-    ui_->grdGroup->change(clearGroup);
-    ui_->grdGroup->Refresh();
-    ui_->grdGroup->setRedraw(false);
-}
-
-QString frmGroup::rowOf(Connection& connection, int member) const {
-    const Recordset person(connection, statements::person(ui_->lstGroup->ItemData(member)));
-    return groupRow(ui_->lstGroup->List(member), person.Fields(u"birthdate").toDate(),
-                    ui_->dtpGroup->Value());
 }
 
 void frmGroup::SetGrid() {
@@ -323,9 +305,7 @@ void frmGroup::saveGroup() {
     }
     startRun();
     GroupWriter file(groupFileName(name));
-    forEachMember([&](int member) {
-        file.Write({ui_->lstGroup->ItemData(member), ui_->lstGroup->List(member)});
-    });
+    forEachMember([&](const PersonRecord& member) { file.Write(member); });
     file.Close();
     tell(QStringLiteral("Done!"), MessageIcon::Information);
     endRun();

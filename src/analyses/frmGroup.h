@@ -7,8 +7,8 @@
 
 #include "controls/form.h"
 #include "runtime/message.h"
-#include "store/connection.h"
 #include "store/item_list.h"
+#include "store/person_records.h"
 
 class ButtonMenu;
 class ListBox;
@@ -67,10 +67,8 @@ class frmGroup final : public Form {
     void run(const std::function<void()>& steps);
     void startRun();
     void endRun();
-    void forEachMember(const std::function<void(int member)>& step);
+    void forEachMember(const RecordTaker& step);
     void calculate();
-    void startGrid();
-    QString rowOf(Connection& connection, int member) const;
     void saveGroup();
 
     std::unique_ptr<Ui::frmGroup> ui_;

@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr int kHeaderRows = 2;
 constexpr int kEmptyRows = 1;
 
 constexpr int kNameWidth = 1650;  // twips
@@ -49,23 +48,19 @@ void setUpColumns(GridCells& cells) {
 
 void clearGroup(GridCells& cells) {
     cells.Clear();
-    cells.setFixedRows(kHeaderRows);
-    cells.setRows(kHeaderRows + kEmptyRows);
-}
-
-void addGroupRow(GridCells& cells, const QString& row, int place) {
-    cells.AddItem(row, kHeaderRows + place);
+    cells.setFixedRows(kGroupHeaderRows);
+    cells.setRows(kGroupHeaderRows + kEmptyRows);
 }
 
 void setGroupGrid(GridCells& cells) {
     setUpColumns(cells);
     for (const int column : kPercentageColumns) {
         cells.setCol(column);
-        for (int row = kHeaderRows; row < cells.Rows(); ++row) {
+        for (int row = kGroupHeaderRows; row < cells.Rows(); ++row) {
             cells.setRow(row);
             cells.setCellForeColor(SetColour(cells.Text()));
         }
     }
-    cells.setRow(kHeaderRows);
+    cells.setRow(kGroupHeaderRows);
     cells.setCol(0);
 }

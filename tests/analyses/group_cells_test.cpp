@@ -26,8 +26,8 @@ class GroupCells : public testing::Test {
     }
 
     void addTwo() {
-        addGroupRow(cells_, QStringLiteral("Ben\t^\t-12%\tv\tv\t0%\tv\t^\t7%\t^"), 0);
-        addGroupRow(cells_, QStringLiteral("Anna\tv\t5%\tv\t^\t-1%\t^\tv\t0%\tv"), 1);
+        cells_.AddItem(u"Ben\t^\t-12%\tv\tv\t0%\tv\t^\t7%\t^", kGroupHeaderRows);
+        cells_.AddItem(u"Anna\tv\t5%\tv\t^\t-1%\t^\tv\t0%\tv", kGroupHeaderRows + 1);
     }
 
     Long colour(int row, int column) const { return cells_.look(row, column).foreColor; }

@@ -64,6 +64,7 @@ TEST_F(SavedGroup, HoldsItsMembersInTheirOrderUnderTheNameAsTyped) {
     EXPECT_EQ(host_.messages().back().owner, form_.get());
     EXPECT_EQ(group().ListCount(), 3);
     EXPECT_EQ(host_.yields(), 3);
+    EXPECT_EQ(groupName().text(), QStringLiteral("My FRIENDS"));
 }
 
 TEST_F(SavedGroup, HasANameWithoutBlanksAtItsEnds) {
@@ -73,8 +74,9 @@ TEST_F(SavedGroup, HasANameWithoutBlanksAtItsEnds) {
 }
 
 TEST_F(SavedGroup, NeedsPeopleBeforeItNeedsAName) {
+    make("Work.ofg", "old");
     openTab(3);
-    for (const char* name : {"", "Friends"}) {
+    for (const char* name : {"", "Friends", "Work"}) {
         expectMessage("Please select people from the list first!");
         saveAs(name);
         EXPECT_EQ(host_.messages().back().icon, MessageIcon::Exclamation);
@@ -137,8 +139,12 @@ TEST_F(SavedGroup, LocksTheWindowWhileItIsWritten) {
         if (looks == 1)
             Q_EMIT of<PictureButton>("cmdSave").Click();
     });
+    host_.onMessage([&] {
+        EXPECT_EQ(looks, 3);
+        EXPECT_TRUE(isLocked());
+        EXPECT_TRUE(isShown("lblProc"));
+    });
     save("Friends");
-    EXPECT_EQ(looks, 3);
     expectIdle();
 }
 
@@ -211,6 +217,21 @@ TEST_F(SavedGroup, CannotReplaceAFolderOfItsName) {
     ASSERT_TRUE(QDir(pathOf("")).mkdir(QStringLiteral("Friends.ofg")));
     openToDefine();
     expectReport(refusalOf(QStringLiteral("Friends.ofg")));
+    saveAs("Friends");
+    EXPECT_TRUE(isLocked());
+}
+
+TEST_F(SavedGroup, IsNotDoneWhereItCannotTakeItsPlace) {
+    const auto makeFolder = [this] { QDir(pathOf("")).mkdir(QStringLiteral("Friends.ofg")); };
+    const QString failure = descriptionOf([&] {
+        GroupWriter file(QStringLiteral("Friends.ofg"));
+        makeFolder();
+        file.Close();
+    });
+    QDir(pathOf("")).rmdir(QStringLiteral("Friends.ofg"));
+    openToDefine();
+    host_.onYield(makeFolder);
+    expectReport(failure);
     saveAs("Friends");
     EXPECT_TRUE(isLocked());
 }

@@ -1,5 +1,6 @@
 // The group comparison: its calculation, and what holds while a calculation or a save runs.
 #include <QFile>
+#include <QTest>
 
 #include "analyses/group_driver.h"
 #include "analyses/group_row.h"
@@ -165,6 +166,29 @@ TEST_F(Calculation, LocksTheWindowAndTellsHowToEndIt) {
     expectIdle();
 }
 
+TEST_F(Calculation, MovesNothingInTheWindow) {
+    openWithEverybody();
+    const auto places = [this] {
+        QCoreApplication::sendPostedEvents();
+        return std::pair(of<QLabel>("lblGroup").geometry(), grid().geometry());
+    };
+    const auto before = places();
+    host_.onYield([&] { EXPECT_EQ(places(), before); });
+    press("cmdTransfer");
+}
+
+TEST_F(Calculation, LetsTheUserGoOnInTheSamePartOfTheDate) {
+    openWithEverybody();
+    form_->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form_.get()));
+    auto& date = of<DatePicker>("dtpGroup");
+    date.setFocus();
+    date.setCurrentSection(QDateTimeEdit::MonthSection);
+    for (int month = 0; month < 2; ++month)
+        press(Qt::Key_Up);
+    EXPECT_EQ(date.Value(), DateSerial(2000, 5, 14));
+}
+
 TEST_F(Calculation, EndsOnEscAfterTheNextRowWhichIsColoured) {
     openWithEverybody();
     duringYield(1, [this] { pressEsc(); });
@@ -175,6 +199,13 @@ TEST_F(Calculation, EndsOnEscAfterTheNextRowWhichIsColoured) {
     EXPECT_FALSE(isLocked());
     EXPECT_TRUE(form_->isVisible());
     host_.onYield({});
+    press("cmdTransfer");
+    EXPECT_EQ(compared(), QStringList({kBen, kAnna, kZed, QString()}));
+}
+
+TEST_F(Calculation, GoesOnAtEveryOtherKey) {
+    openWithEverybody();
+    duringYield(1, [this] { press(Qt::Key_Space); });
     press("cmdTransfer");
     EXPECT_EQ(compared(), QStringList({kBen, kAnna, kZed, QString()}));
 }

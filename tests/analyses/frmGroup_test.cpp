@@ -87,7 +87,13 @@ TEST_F(Group, CallsItsControlsByTheirTexts) {
         EXPECT_FALSE(of<QAbstractButton>(tab).icon().pixmap(24).isNull()) << tab;
     EXPECT_EQ(of<QWidget>("bbGroup").accessibleName(), QStringLiteral("Groups"));
     EXPECT_EQ(of<DatePicker>("dtpGroup").CustomFormat(), QStringLiteral("d MMMM yyyy"));
-    EXPECT_EQ(textOf("lblGroupName"), QStringLiteral("Name of group:"));
+    const std::pair<const char*, const char*> labels[] = {{"lblCats", "&Category:"},
+                                                          {"lblFiles", "&Saved groups:"},
+                                                          {"lblGroup", "&Group:"},
+                                                          {"lblDate", "&Date:"},
+                                                          {"lblGroupName", "Name of group:"}};
+    for (const auto& [label, text] : labels)
+        EXPECT_EQ(textOf(label), QString::fromLatin1(text));
     EXPECT_EQ(textOf("lblProc"), QStringLiteral("Processing..."));
     EXPECT_EQ(textOf("lblCancel"), QString());
 }
@@ -128,17 +134,23 @@ TEST_F(Group, TakesTheWaitWindowAwayAsTheLastActOfItsLoad) {
     EXPECT_FALSE(isWaiting());
 }
 
-TEST_F(Group, OpensAnewOnItsFirstTabWithoutTheGroup) {
+TEST_F(Group, OpensAnewOnItsFirstTabAndOnTodayWithoutTheGroup) {
     open();
+    pickDate(DateSerial(1999, 12, 31));
     clickTab(3);
     addAll();
+    pressEsc();
     press("cmdClose");
     EXPECT_FALSE(form_->isVisible());
     form_->Show();
     EXPECT_EQ(of<ButtonBar>("bbGroup").ChosenItem(), 1);
     EXPECT_TRUE(isShown("grdGroup"));
+    EXPECT_EQ(of<DatePicker>("dtpGroup").Value(), DateSerial(2000, 3, 14));
     EXPECT_EQ(group().ListCount(), 0);
     EXPECT_EQ(total().ListCount(), 3);
+    addAll();
+    press("cmdTransfer");
+    EXPECT_EQ(compared(), QStringList({kBen, kAnna, kZed, QString()}));
 }
 
 TEST_F(Group, ShowsTheControlsOfTheTab) {
@@ -341,6 +353,18 @@ TEST_F(Group, ReportsACategoryThatCannotBeRead) {
     EXPECT_EQ(total().ListCount(), 3);
 }
 
+TEST_F(Group, IsPickedFromNobodyWhereTheFirstCannotBeRead) {
+    directory_.dropConstraints();
+    addCategory(QStringLiteral("Family"));
+    const Long anna = addPerson({.name = QStringLiteral("Anna")});
+    open();
+    runSql(directory_.people(),
+           QStringLiteral("UPDATE Data SET Name = NULL WHERE NameID = %1").arg(anna));
+    expectReport(QStringLiteral("Invalid use of Null"));
+    categories().setText(QStringLiteral("Family"));
+    EXPECT_EQ(total().ListCount(), 0);
+}
+
 TEST_F(Group, DropsItsFavouritesFromTheToolbar) {
     writeFavourite({3, kZed});
     writeFavourite({1, kAnna});
@@ -353,6 +377,7 @@ TEST_F(Group, DropsItsFavouritesFromTheToolbar) {
         qobject_cast<QToolButton*>(of<QToolBar>("tbGroup").widgetForAction(&action));
     ASSERT_TRUE(button);
     EXPECT_EQ(button->menu(), &faves());
+    EXPECT_EQ(button->focusPolicy(), Qt::TabFocus);
 }
 
 TEST_F(Group, SelectsAFavouriteOfWhateverCategoryAndMovesNobody) {

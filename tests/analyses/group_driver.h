@@ -101,10 +101,12 @@ class GroupTest : public MainWindowTest {
         doubleClick(*list.viewport(), list.visualRect(list.model()->index(entry, 0)).center());
     }
 
-    // Where the user's keys go.
-    void pressEsc() {
-        pressKey(form_->focusWidget() ? *form_->focusWidget() : *form_, Qt::Key_Escape);
+    // Presses a key where the user's keys go.
+    void press(Qt::Key key) {
+        pressKey(form_->focusWidget() ? *form_->focusWidget() : *form_, key);
     }
+
+    void pressEsc() { press(Qt::Key_Escape); }
 
     // Acts while the next run yields after so many rows or records.
     void duringYield(int number, std::function<void()> act) {

@@ -89,6 +89,8 @@ Answer RecordingHost::showMessage(const Message& message) {
     if (exitCode_)
         return Answer::Ok;
     messages_.push_back(message);
+    if (onMessage_)
+        onMessage_();
     if (expected_.empty() || expected_.front().text != message.text) {
         ADD_FAILURE() << "An unexpected box: " << qPrintable(message.text);
         return message.buttons == MessageButtons::YesNo ? Answer::No : Answer::Ok;

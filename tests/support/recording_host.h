@@ -26,6 +26,9 @@ class RecordingHost final : public Host {
     // The next box must have this text; it gets this answer.
     void expectMessage(const QString& text, Answer answer = Answer::Ok);
 
+    // What holds while a box is shown, that box being the last of messages().
+    void onMessage(std::function<void()> look) { onMessage_ = std::move(look); }
+
     // The boxes shown so far.
     const std::vector<Message>& messages() const { return messages_; }
 
@@ -123,6 +126,7 @@ class RecordingHost final : public Host {
     std::optional<int> exitCode_;
     int beeps_ = 0;
     int yields_ = 0;
+    std::function<void()> onMessage_;
     std::function<void()> onPaintWindows_;
     std::function<void()> onYield_;
 };

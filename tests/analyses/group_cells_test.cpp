@@ -79,6 +79,13 @@ TEST_F(GroupCells, ColourThePercentagesAlone) {
     }
 }
 
+TEST_F(GroupCells, StandOnTheFirstPerson) {
+    addTwo();
+    setGroupGrid(cells_);
+    EXPECT_EQ(cells_.Row(), 2);
+    EXPECT_EQ(cells_.Col(), 0);
+}
+
 TEST_F(GroupCells, TakeTheEmptyRowForZero) {
     for (const int column : {2, 5, 8})
         EXPECT_EQ(colour(2, column), kRed);

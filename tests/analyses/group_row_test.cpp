@@ -75,6 +75,16 @@ TEST(GroupRow, IsTheNameAndThreeCellsForEachCycle) {
     EXPECT_EQ(rowOn(7), QStringLiteral("x|^|100%|v|v|94%|v|^|97%|^"));
 }
 
+TEST(GroupRow, RoundsItsPercentages) {
+    EXPECT_EQ(rowOn(5), QStringLiteral("x|^|90%|^|^|98%|^|^|81%|^"));
+    EXPECT_EQ(rowOn(19), QStringLiteral("x|v|-90%|v|^|-89%|^|v|-46%|v"));
+}
+
+TEST(GroupRow, ShowsItsTextAsItStands) {
+    EXPECT_TRUE(
+        groupRow(QStringLiteral(" x "), kBirth, kBirth).startsWith(QStringLiteral(" x \t")));
+}
+
 TEST(GroupRow, IsZeroOnTheDayOfBirth) {
     EXPECT_EQ(rowOn(0), QStringLiteral("x|^|0%|^|^|0%|^|^|0%|^"));
 }
@@ -92,6 +102,7 @@ TEST(GroupRow, HasNoMinusBeforeAZero) {
 TEST(SetColour, GoesByTheSignOfTheNumber) {
     EXPECT_EQ(SetColour(u"-12%"), 0xFF0000);
     EXPECT_EQ(SetColour(u"0%"), 0x0000FF);
+    EXPECT_EQ(SetColour(u"1%"), 0xFF00FF);
     EXPECT_EQ(SetColour(u"100%"), 0xFF00FF);
     EXPECT_EQ(SetColour(u""), 0x0000FF);
 }

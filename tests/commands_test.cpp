@@ -1,6 +1,7 @@
 // The commands of the main window: what they ask for, what they open, and the favourites.
 #include "commands.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QDir>
@@ -25,6 +26,8 @@
 #include "records/frmCategory.h"
 #include "records/frmExplore.h"
 #include "records/frmZoom.h"
+#include "reports/dlgScreenPrinter.h"
+#include "reports/frmDailyReport.h"
 #include "shell/default_instance.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
@@ -37,10 +40,15 @@
 #include "support/files.h"
 #include "support/main_window.h"
 #include "support/next_form.h"
+#include "support/sheet_printer.h"
 
 namespace {
 
 const QString kAnna = QStringLiteral("Smith, Anna");
+
+const QString kPrinterQuestion = QStringLiteral(
+    "Ondara needs to communicate with the printer to collect information. Make sure the printer is "
+    "switched on, or a printer error will occur.\n\nDo you wish to continue?");
 
 class CommandsTest : public MainWindowTest {
   protected:
@@ -59,6 +67,21 @@ class CommandsTest : public MainWindowTest {
             [&](F& form) { isShown = form.isModal() && form.parentWidget() == &window(); });
         trigger(command);
         EXPECT_TRUE(isShown) << command;
+    }
+
+    // The command asks for the device, and then shows the report window.
+    void onReport(const std::function<void(dlgScreenPrinter&)>& answer,
+                  const std::function<void(frmDailyReport&)>& look) {
+        onNextForm<dlgScreenPrinter>([answer, look](dlgScreenPrinter& dialog) {
+            onNextForm<frmDailyReport>(look);
+            answer(dialog);
+        });
+        trigger("mnuReport");
+    }
+
+    static void choosePrinter(QWidget& dialog) {
+        child<QAbstractButton>(dialog, QStringLiteral("optPrinter")).click();
+        child<QAbstractButton>(dialog, QStringLiteral("OKButton")).click();
     }
 
     ButtonMenu& favesMenu() { return *mainControls().mnuFaves; }
@@ -101,10 +124,56 @@ TEST_F(CommandsTest, AskForDetailsInWordsOfTheirOwn) {
     Q_EMIT control<PictureButton>("cmdDetails").Click();
 }
 
-TEST_F(CommandsTest, AskForNobodyWhoIsThere) {
+TEST_F(CommandsTest, OpenAReportForTheScreen) {
     startWith(kAnna);
-    trigger("mnuReport");
+    modCycles::ReportToScreen = false;
+    bool isShown = false;
+    onReport(
+        [](QWidget& dialog) { click(child<QAbstractButton>(dialog, QStringLiteral("OKButton"))); },
+        [&](frmDailyReport& report) {
+            isShown = report.isModal() && report.parentWidget() == &window() &&
+                      defaultInstance<frmWait>().isHidden();
+        });
+    EXPECT_TRUE(isShown);
+    EXPECT_TRUE(modCycles::ReportToScreen);
     EXPECT_TRUE(host_.messages().empty());
+}
+
+TEST_F(CommandsTest, OpenAReportForTheScreenWhereTheDeviceWasNotAnswered) {
+    startWith(kAnna);
+    bool isShown = false;
+    onReport(
+        [](QWidget& dialog) {
+            child<QAbstractButton>(dialog, QStringLiteral("optPrinter")).click();
+            dialog.close();
+        },
+        [&](frmDailyReport&) { isShown = true; });
+    EXPECT_TRUE(isShown);
+    EXPECT_TRUE(modCycles::ReportToScreen);
+}
+
+TEST_F(CommandsTest, AskBeforeTheyTalkToThePrinter) {
+    PrinterTray tray;
+    host_.onPrinter([&tray] { return std::make_unique<SheetPrinter>(tray); });
+    startWith(kAnna);
+    host_.expectMessage(kPrinterQuestion, Answer::Yes);
+    bool isShown = false;
+    onReport(choosePrinter, [&](frmDailyReport&) { isShown = true; });
+    EXPECT_TRUE(isShown);
+    const Message& question = host_.messages().back();
+    EXPECT_EQ(question.title, u"Printer communication");
+    EXPECT_EQ(question.buttons, MessageButtons::YesNo);
+    EXPECT_EQ(question.icon, MessageIcon::Information);
+    EXPECT_EQ(question.owner, &window());
+}
+
+TEST_F(CommandsTest, OpenNoReportWhereTheyMayNotTalkToThePrinter) {
+    startWith(kAnna);
+    host_.expectMessage(kPrinterQuestion, Answer::No);
+    onNextForm<dlgScreenPrinter>(choosePrinter);
+    trigger("mnuReport");
+    EXPECT_FALSE(modCycles::ReportToScreen);
+    EXPECT_TRUE(defaultInstance<frmWait>().isHidden());
 }
 
 TEST_F(CommandsTest, OpenTheSearchForEventsOfWhoIsChosen) {

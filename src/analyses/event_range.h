@@ -26,6 +26,6 @@ EventRange eventRange(Date birthdate, Date from, RangeDirection direction, Integ
 // What the user is told of it.
 QString rangeText(const EventRange& range);
 
-// How far a search has come after a day, 0 to 100 per cent. Raises 6 (Overflow) at the first day
-// of a range of none.
+// How far a search has come after a day, 0 to 100 per cent. Raises 6 (Overflow) where the
+// range has no days.
 float rangeProgress(Long day, Long spanDays);

@@ -75,6 +75,9 @@ struct EventHits {
 
 namespace search_detail {
 
+// The sine that a peak lies above, and its negative a low below.
+inline constexpr double kPeakSine = 0.99;
+
 // For which of the cycles something holds on a day.
 struct Together {
     bool emotional;
@@ -85,11 +88,11 @@ struct Together {
 // The rules of the search for several cycles at once, which are its own: unlike those of one cycle
 // by itself (day_state.h) the upper ends of the critical bands are open.
 constexpr Together peaksTogether(double emotional, double physical, double intellectual) {
-    return {emotional > 0.99, physical > 0.99, intellectual > 0.99};
+    return {emotional > kPeakSine, physical > kPeakSine, intellectual > kPeakSine};
 }
 
 constexpr Together lowsTogether(double emotional, double physical, double intellectual) {
-    return {emotional < -0.99, physical < -0.99, intellectual < -0.99};
+    return {emotional < -kPeakSine, physical < -kPeakSine, intellectual < -kPeakSine};
 }
 
 // The intellectual sine is multiplied first and compared then, which decides at the ends.
@@ -101,7 +104,7 @@ constexpr Together criticalTogether(double emotional, double physical, double in
 
 // Takes everything away that an array holds but for its first element.
 template <class Element>
-void empty(std::vector<Element>& hits) {
+void forget(std::vector<Element>& hits) {
     hits.resize(1);
 }
 
@@ -194,7 +197,7 @@ template <class GoOn>
 void SearchCycle(Long span, Long dayBase, std::string_view cycleKey, EventHits& hits, GoOn goOn) {
     using namespace search_detail;
     for (auto* array : {&hits.EmotHits, &hits.PhysHits, &hits.IntelHits})
-        empty(*array);
+        forget(*array);
     if (cycleKey == modCycles::kEmotionalKey)
         scanCycle<modCycles::emotionalState>(span, emotionalSines(dayBase), hits.EmotHits, goOn);
     else if (cycleKey == modCycles::kPhysicalKey)
@@ -210,8 +213,8 @@ template <class GoOn>
 void SearchCombined(Long span, Long dayBase, bool triple, Integer kind, EventHits& hits,
                     GoOn goOn) {
     using namespace search_detail;
-    empty(hits.TripleHits);
-    empty(hits.DoubleHits);
+    forget(hits.TripleHits);
+    forget(hits.DoubleHits);
     if (kind == kPeakKind)
         scanTogether<peaksTogether>(span, dayBase, triple, hits, goOn);
     else if (kind == kLowKind)

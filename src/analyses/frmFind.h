@@ -17,8 +17,9 @@ class frmFind;
 }
 
 // Searches day by day for whoever is chosen in the main window, and stays alive meanwhile: Esc ends
-// the scan that is going, or the next one after its first day, and closes nothing. A day of the
-// list opens the chart from that day on; when the form is closed, the main chart is as it was.
+// the scan that is going after the next day, or the next one after its first day, and closes
+// nothing. A day of the list opens the chart from that day on; when the form is closed, the main
+// chart begins at the selected date again.
 class frmFind final : public Form {
     Q_OBJECT
 

@@ -19,8 +19,8 @@ class frmGroup;
 
 // People are picked into a group from the list of a category, or the group is read from a file; a
 // calculation gives each of them a row of the grid, a save writes them to a file. Both go through
-// the group one by one and yield after each, with the window locked. Esc ends them after the person
-// in hand; pressed while nothing runs, it ends the next of them after the first person.
+// the group one by one and yield after each, with the window locked. Esc ends them after the next
+// person; pressed while nothing runs, it ends the next of them after the first person.
 //
 // Two failures leave their traces: a calculation that fails leaves the grid frozen until one
 // succeeds, and a save or a deletion that fails leaves the window locked. It can still be closed.

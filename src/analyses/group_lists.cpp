@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <unordered_set>
 
-#include "runtime/text.h"
+#include "store/file_names.h"
 #include "store/group_files.h"
 
 std::vector<ListEntry> outsideGroup(std::vector<ListEntry> people,
@@ -18,7 +18,7 @@ std::vector<ListEntry> outsideGroup(std::vector<ListEntry> people,
 }
 
 bool isGroupListed(const QString& groupName, const std::vector<ListEntry>& files) {
-    const QString wanted = LCase(groupFileName(groupName));
+    const QString wanted = groupFileName(groupName);
     return std::any_of(files.begin(), files.end(),
-                       [&](const ListEntry& file) { return LCase(file.text) == wanted; });
+                       [&](const ListEntry& file) { return isSameFileName(file.text, wanted); });
 }

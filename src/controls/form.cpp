@@ -114,6 +114,7 @@ void Form::pressDefaultButton(QKeyEvent& key) {
 }
 
 void Form::work(const std::function<void()>& steps) {
+    Q_ASSERT(!atWork_);
     {
         const QScopedValueRollback atWork(atWork_, true);
         steps();

@@ -15,7 +15,7 @@ class QPushButton;
 // so that whichever control had it has heard that it lost it.
 //
 // Work of many steps may yield between them, so that the window stays alive. A window that is
-// closed then is unloaded when the work has ended, which it is asked to do.
+// closed then is unloaded when the work has ended, which Form_Cancel asks it to do.
 //
 // Whoever makes a form owns it: a command makes one on the stack, shows it modally, and it is freed
 // on return. A run-time error in Form_Load or Form_Unload goes to whoever loads or unloads.
@@ -63,7 +63,8 @@ class Form : public QWidget {
     // Makes Enter press a button, wherever the focus is but on another button.
     void setDefaultButton(QPushButton& button);
 
-    // Does work that yields.
+    // Does work that yields. There must be no other work going. An error of the steps goes to the
+    // caller, and the form is not unloaded then.
     void work(const std::function<void()>& steps);
     bool isAtWork() const { return atWork_; }
 

@@ -3,6 +3,8 @@
 
 #include <QImage>
 
+#include "controls/twips.h"
+
 QPalette paperPalette() {
     QPalette palette;
     palette.setColor(QPalette::Base, Qt::white);
@@ -19,4 +21,8 @@ QPaintDevice& paperMeasure() {
         return image;
     }();
     return dot;
+}
+
+int paperPixels(double lineWidth) {
+    return static_cast<int>(lineWidth / kTwipsPerPixel);
 }

@@ -10,3 +10,6 @@ QPalette paperPalette();
 
 // What lengths on paper are measured with: an inch has 96 pixels.
 QPaintDevice& paperMeasure();
+
+// How many whole pixels of paper lines of so many twips have.
+int paperPixels(double lineWidth);

@@ -6,7 +6,8 @@
 
 #include "controls/cycle_colours.h"
 
-// Its value is one of per cent, and is kept unrounded. It can have a cycle's colour.
+// Its value is in per cent, 0 to 100, and kept unrounded; value() of Qt counts pixels. It can have
+// a cycle's colour.
 class ProgressBar final : public QProgressBar {
     Q_OBJECT
 

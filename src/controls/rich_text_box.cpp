@@ -7,6 +7,7 @@
 #include <QTextDocument>
 #include <algorithm>
 
+#include "controls/paper.h"
 #include "controls/picture_object.h"
 #include "controls/rich_text_document.h"
 #include "controls/twips.h"
@@ -88,16 +89,15 @@ void RichTextBox::addPicture(const QString& fileName) {
 }
 
 void RichTextBox::SaveFile(const QString& fileName, TextFileType type) const {
-    writeWholeFile(fileName, type == TextFileType::RichText
-                                 ? writeRtf(richTextOf(*document()))
-                                 : encodeSmallText(textOf(*document(), {})));
+    writeWholeFile(fileName, type == TextFileType::Rich ? writeRtf(richTextOf(*document()))
+                                                        : encodeSmallText(textOf(*document(), {})));
 }
 
 void RichTextBox::wrapAsOnPaper(Long lineWidth) {
     document()->setDocumentMargin(0);
     document()->setUseDesignMetrics(true);
     setLineWrapMode(QTextEdit::FixedPixelWidth);
-    setLineWrapColumnOrWidth(toPixels(lineWidth));
+    setLineWrapColumnOrWidth(paperPixels(lineWidth));
 }
 
 RichTextPages RichTextBox::pages(Long lineWidth) const {

@@ -18,7 +18,7 @@ RichTextPages::RichTextPages(const QTextDocument& document, double lineWidth)
     recolour(*document_, paperPalette());
     document_->setDocumentMargin(0);
     document_->setUseDesignMetrics(true);
-    document_->setTextWidth(lineWidth / kTwipsPerPixel);
+    document_->setTextWidth(paperPixels(lineWidth));
     for (QTextBlock block = document_->begin(); block.isValid(); block = block.next())
         addLines(block);
 }

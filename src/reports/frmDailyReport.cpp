@@ -188,10 +188,10 @@ void frmDailyReport::cmdSave_Click() {
     const int filter = dlgDaily_->FilterIndex();
     if (filter == kRichTextFilter || filter == kAllFilesFilter) {
         dlgDaily_->setDefaultExt(QStringLiteral("rtf"));
-        ui_->rtbDaily->SaveFile(dlgDaily_->FileName(), TextFileType::RichText);
+        ui_->rtbDaily->SaveFile(dlgDaily_->FileName(), TextFileType::Rich);
     } else if (filter == kPlainTextFilter) {
         dlgDaily_->setDefaultExt(QStringLiteral("txt"));
-        ui_->rtbDaily->SaveFile(dlgDaily_->FileName(), TextFileType::PlainText);
+        ui_->rtbDaily->SaveFile(dlgDaily_->FileName(), TextFileType::Plain);
     }
 }
 

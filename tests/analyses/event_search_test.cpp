@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <map>
 #include <set>
 #include <string>
@@ -10,7 +11,9 @@
 namespace {
 
 using search_detail::criticalTogether;
+using search_detail::lowsTogether;
 using search_detail::pairOf;
+using search_detail::peaksTogether;
 using search_detail::Together;
 
 constexpr Long kHundredYears = 36525;  // days
@@ -241,6 +244,32 @@ TEST(SearchCombined, EndsAfterTheDayThatIsToBeTheLast) {
     SearchCombined(kHundredYears, 0, true, kCriticalKind, hits,
                    [](Long day) { return day < 7210; });
     EXPECT_EQ(triples(hits), (std::vector<Long>{0, 7210}));
+}
+
+TEST(PeaksTogether, LieAboveNinetyNinePerCentInEachCycle) {
+    constexpr double kPeak = 0.99;
+    constexpr double kAbove = 0.9901;
+    const auto peaks = [](double emotional, double physical, double intellectual) {
+        const Together together = peaksTogether(emotional, physical, intellectual);
+        return std::array{together.emotional, together.physical, together.intellectual};
+    };
+    EXPECT_EQ(peaks(kPeak, kPeak, kPeak), (std::array{false, false, false}));
+    EXPECT_EQ(peaks(kAbove, kPeak, kPeak), (std::array{true, false, false}));
+    EXPECT_EQ(peaks(kPeak, kAbove, kPeak), (std::array{false, true, false}));
+    EXPECT_EQ(peaks(kPeak, kPeak, kAbove), (std::array{false, false, true}));
+}
+
+TEST(LowsTogether, LieBelowMinusNinetyNinePerCentInEachCycle) {
+    constexpr double kLow = -0.99;
+    constexpr double kBelow = -0.9901;
+    const auto lows = [](double emotional, double physical, double intellectual) {
+        const Together together = lowsTogether(emotional, physical, intellectual);
+        return std::array{together.emotional, together.physical, together.intellectual};
+    };
+    EXPECT_EQ(lows(kLow, kLow, kLow), (std::array{false, false, false}));
+    EXPECT_EQ(lows(kBelow, kLow, kLow), (std::array{true, false, false}));
+    EXPECT_EQ(lows(kLow, kBelow, kLow), (std::array{false, true, false}));
+    EXPECT_EQ(lows(kLow, kLow, kBelow), (std::array{false, false, true}));
 }
 
 TEST(CriticalTogether, HasOpenUpperEndsWhereOneCycleHasClosedOnes) {

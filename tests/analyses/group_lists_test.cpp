@@ -45,6 +45,7 @@ TEST(IsGroupListed, GoesByTheWholeNameOfTheFileWithoutRegardToCase) {
     for (const char* name : {"Fam", "Family.ofg", "Families", ""})
         EXPECT_FALSE(isGroupListed(QString::fromLatin1(name), files)) << name;
     EXPECT_FALSE(isGroupListed(QStringLiteral("Family"), {}));
+    EXPECT_TRUE(isGroupListed(QStringLiteral("ΦΊΛΟΣ"), {{QStringLiteral("φίλος.ofg")}}));
 }
 
 TEST(IsGroupListed, LeavesBlanksAtTheEndsOfTheNameAside) {

@@ -330,7 +330,7 @@ TEST_F(RichTextFiles, AreSavedWithFormatsAndPictures) {
     box_.setTextRTF(kDocument);
     box_.setSelStart(100);
     box_.addPicture(picture());
-    box_.SaveFile(path("saved.rtf"), TextFileType::RichText);
+    box_.SaveFile(path("saved.rtf"), TextFileType::Rich);
     const RichText text = readRtf(QString::fromLatin1(bytesOf("saved.rtf")));
     EXPECT_EQ(marksOf(text), marksOf(richTextOf(*box_.document())));
     const auto& saved = std::get<RichPicture>(text.back().runs.front().content);
@@ -341,12 +341,12 @@ TEST_F(RichTextFiles, AreSavedAsPlainTextWithoutPictures) {
     box_.setText(QStringLiteral("Zoë\r\nŽ\r\n"));
     box_.setSelStart(100);
     box_.addPicture(picture());
-    box_.SaveFile(path("saved.txt"), TextFileType::PlainText);
+    box_.SaveFile(path("saved.txt"), TextFileType::Plain);
     EXPECT_EQ(bytesOf("saved.txt"), QByteArray("Zo\xEB\r\n\x8E\r\n"));
 }
 
 TEST_F(RichTextFiles, CannotBeSavedWhereThereIsNoFolder) {
-    EXPECT_EQ(errorOf([this] { box_.SaveFile(path("none/x.rtf"), TextFileType::RichText); }), 75);
+    EXPECT_EQ(errorOf([this] { box_.SaveFile(path("none/x.rtf"), TextFileType::Rich); }), 75);
 }
 
 TEST_F(RichTextFiles, WrapAsOnPaperHoweverWideTheBoxIs) {

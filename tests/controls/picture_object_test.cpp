@@ -1,0 +1,60 @@
+// The pictures of a document.
+#include "controls/picture_object.h"
+
+#include <gtest/gtest.h>
+
+#include <QPainter>
+#include <QTextCursor>
+#include <QTextDocument>
+
+#include "controls/rich_text_document.h"
+
+namespace {
+
+// Lines of a pixel, so fine that a picture painted smaller by leaving pixels out is of one colour.
+QImage fineLines() {
+    QImage picture(200, 200, QImage::Format_RGB32);
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            picture.setPixelColor(x, y, x % 2 == 0 ? Qt::black : Qt::white);
+    }
+    return picture;
+}
+
+class PictureObjectTest : public testing::Test {
+  protected:
+    PictureObjectTest() {
+        PictureObject::paintPicturesOf(document_);
+        document_.setDocumentMargin(0);
+        QTextCursor(&document_).insertImage(pictureIn(document_, fineLines(), {750, 1500}));
+    }
+
+    // The document at a scale of the screen's.
+    QImage painted(double scale) {
+        QImage sheet(100, 200, QImage::Format_RGB32);
+        sheet.fill(Qt::red);
+        QPainter painter(&sheet);
+        painter.scale(scale, scale);
+        document_.drawContents(&painter);
+        return sheet;
+    }
+
+    QTextDocument document_;
+};
+
+}  // namespace
+
+TEST_F(PictureObjectTest, ArePaintedInTheSizeOfTheirPlace) {
+    const QImage sheet = painted(1);
+    EXPECT_NE(sheet.pixelColor(49, 99), QColor(Qt::red));
+    EXPECT_EQ(sheet.pixelColor(50, 50), QColor(Qt::red));
+    EXPECT_EQ(document_.size().height(), 100 + document_.documentMargin() * 2);
+}
+
+TEST_F(PictureObjectTest, LoseNoLinesWhereTheyArePaintedSmaller) {
+    for (const double scale : {1.0, 0.5, 1.0}) {
+        const int grey = painted(scale).pixelColor(10, 20).lightness();
+        EXPECT_GT(grey, 90) << scale;
+        EXPECT_LT(grey, 170) << scale;
+    }
+}

@@ -59,7 +59,8 @@ Long RichTextPages::paint(QPainter& painter, const QRectF& place, Long from) con
     painter.setClipRect(painted);
     QAbstractTextDocumentLayout::PaintContext context;
     context.palette = paperPalette();
-    context.clip = painted;
+    // A line that only touches what is to be painted would be painted as well.
+    context.clip = painted.adjusted(0, 0.5, 0, -0.5);
     document_->documentLayout()->draw(&painter, context);
     painter.restore();
     return behind == lines_.end() ? end_ : behind->start;

@@ -68,6 +68,7 @@ void frmFind::setUpStatusBar() {
     user_->setObjectName(QStringLiteral("sbFind_User"));
     pbFind_ = new ProgressBar(this);
     pbFind_->setObjectName(QStringLiteral("pbFind"));
+    pbFind_->setAccessibleName(QStringLiteral("Progress of the search"));
     pbFind_->setFixedWidth(kProgressWidth);
     ui_->sbFind->addWidget(status);
     ui_->sbFind->addWidget(user_, 1);

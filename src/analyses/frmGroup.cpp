@@ -41,7 +41,6 @@ frmGroup::frmGroup(QWidget* owner) : Form(owner), ui_(std::make_unique<Ui::frmGr
 
 frmGroup::~frmGroup() = default;
 
-// The group has its place also while a run hides it.
 void frmGroup::setUpControls() {
     ui_->bbGroup->setGroup(
         QStringLiteral("Groups"),
@@ -52,6 +51,7 @@ void frmGroup::setUpControls() {
     for (ListControl* list :
          std::initializer_list<ListControl*>{ui_->cbCats, ui_->lstTotal, ui_->lstGroup})
         list->setSorted(true);
+    // The group has its place also while a run hides it.
     QSizePolicy policy = ui_->lstGroup->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     ui_->lstGroup->setSizePolicy(policy);
@@ -109,11 +109,16 @@ void frmGroup::cmdClose_Click() {
     Unload();
 }
 
+// What the lock leaves open does nothing during a run; an error of it is trapped.
+template <class Steps>
+void frmGroup::whenIdle(Steps&& steps) {
+    if (!isAtWork())
+        trapped(this, std::forward<Steps>(steps));
+}
+
 void frmGroup::tell(const QString& text, MessageIcon icon) {
     host().showMessage({.text = text, .icon = icon, .owner = this});
 }
-
-// The tabs.
 
 void frmGroup::bbGroup_Click(int, int item) {
     ui_->lstGroup->Clear();
@@ -136,8 +141,6 @@ void frmGroup::SetGroupTab(int tab) {
     ui_->cmdDelete->setVisible(tab == kDeleteGroups);
     ui_->lblCancel->setVisible(tab != kDeleteGroups);
 }
-
-// The people and the group.
 
 void frmGroup::Fill_Total() {
     listPeople(statements::allPeopleWithNotes(), {});
@@ -199,16 +202,12 @@ void frmGroup::FillGroupFavourites() {
 }
 
 void frmGroup::tbGroup_ButtonMenuClick(int index) {
-    if (isAtWork())
-        return;
-    trapped(this, [this, index] {
+    whenIdle([this, index] {
         if (favesMenu_->Key(index).isEmpty() &&
             !modCycles::selectFavourite(favesMenu_->Text(index), *ui_->cbCats, *ui_->lstTotal))
             tell(QStringLiteral("This person is not available in the selection list."));
     });
 }
-
-// The runs: a calculation, and a save.
 
 // The control that has the focus gives it up before the lock can take it, and has it again
 // afterwards: so a date stays in the part that the user changes.
@@ -236,13 +235,13 @@ void frmGroup::endRun() {
     ui_->lstGroup->show();
 }
 
-void frmGroup::LockEm(bool sett) {
+void frmGroup::LockEm(bool locked) {
     for (QWidget* control : std::initializer_list<QWidget*>{
              ui_->cmdTransfer, ui_->lstGroup, ui_->lstTotal, ui_->cbCats, ui_->cmdAdd,
              ui_->cmdAddAll, ui_->cmdRemove, ui_->cmdRemoveAll, ui_->dtpGroup, ui_->cmdClose})
-        control->setEnabled(!sett);
+        control->setEnabled(!locked);
     for (int item = kSelectGroup; item <= kDeleteGroups; ++item)
-        ui_->bbGroup->setItemEnabled(item, !sett);
+        ui_->bbGroup->setItemEnabled(item, !locked);
 }
 
 void frmGroup::forEachMember(const RecordTaker& step) {
@@ -283,12 +282,8 @@ void frmGroup::SetGrid() {
     ui_->grdGroup->change(setGroupGrid);
 }
 
-// The files.
-
 void frmGroup::cmdSave_Click() {
-    if (isAtWork())
-        return;
-    run([this] { trapped(this, [this] { saveGroup(); }); });
+    whenIdle([this] { run([this] { trapped(this, [this] { saveGroup(); }); }); });
 }
 
 void frmGroup::saveGroup() {
@@ -312,9 +307,7 @@ void frmGroup::saveGroup() {
 }
 
 void frmGroup::flFaves_DblClick() {
-    if (isAtWork())
-        return;
-    trapped(this, [this] {
+    whenIdle([this] {
         std::vector<ListEntry> members;
         const auto show = qScopeGuard([&] { ui_->lstGroup->fill(std::move(members)); });
         readGroup(ui_->flFaves->FileName(), [&](const PersonRecord& member) {
@@ -324,9 +317,7 @@ void frmGroup::flFaves_DblClick() {
 }
 
 void frmGroup::cmdDelete_Click() {
-    if (isAtWork())
-        return;
-    trapped(this, [this] {
+    whenIdle([this] {
         if (ui_->flFaves->ListIndex() == -1)
             return;
         LockEm(true);

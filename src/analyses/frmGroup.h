@@ -53,7 +53,7 @@ class frmGroup final : public Form {
 
     void Fill_Total();
     void FillGroupFavourites();
-    void LockEm(bool sett);
+    void LockEm(bool locked);
     void SetGrid();
     void SetGroupTab(int tab);
 
@@ -62,6 +62,8 @@ class frmGroup final : public Form {
 
     void listPeople(const QString& statement, const std::vector<ListEntry>& group);
     void moveSelected(ListBox& from, ListBox& to);
+    template <class Steps>
+    void whenIdle(Steps&& steps);
     void tell(const QString& text, MessageIcon icon = MessageIcon::None);
 
     void run(const std::function<void()>& steps);

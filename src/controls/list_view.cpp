@@ -84,6 +84,7 @@ void ListView::setColumns(std::vector<ListColumn> columns) {
         if (width)
             header()->resizeSection(section, toPixels(*width));
     }
+    beginAtFirstRow();
 }
 
 void ListView::fill(std::vector<ListRow> rows) {

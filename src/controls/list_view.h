@@ -14,7 +14,7 @@ class ListView final : public QTreeView {
   public:
     explicit ListView(QWidget* parent = nullptr);
 
-    // Replaces all columns. The rows stay.
+    // Replaces all columns. The rows stay, and no row is selected then.
     void setColumns(std::vector<ListColumn> columns);
 
     void Clear() { fill({}); }

@@ -1,6 +1,7 @@
 // The search for events in its window: ranges, results, and what happens while it goes on.
 #include "analyses/frmFind.h"
-#include "finder_driver.h"
+
+#include "analyses/finder_driver.h"
 
 using modCycles::DateSerial;
 

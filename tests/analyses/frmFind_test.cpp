@@ -3,13 +3,14 @@
 
 #include <QCoreApplication>
 
+#include "analyses/finder_driver.h"
 #include "controls/chart.h"
 #include "controls/list_box.h"
 #include "controls/month_view.h"
 #include "controls/picture_box.h"
-#include "finder_driver.h"
 #include "records/dlgBZoom.h"
 #include "shell/main_chart.h"
+#include "support/form_rules.h"
 #include "support/next_form.h"
 
 using modCycles::DateSerial;
@@ -48,6 +49,17 @@ TEST_F(FinderWindow, OpensOnTodayWithEverythingAtItsFirst) {
     EXPECT_EQ(textOf("sbFind_Status"), QStringLiteral("Ready"));
     EXPECT_EQ(textOf("sbFind_User"), QStringLiteral("Anna Smith"));
     EXPECT_EQ(rows(), 0);
+}
+
+TEST_F(FinderWindow, KeepsTheRulesOfFormsWithEitherSettings) {
+    openFor(kAnna);
+    for (const auto& [isCustom, sharedLetters] : {std::pair(false, "C"), {true, "CE"}}) {
+        check("chkCustom", isCustom);
+        EXPECT_EQ(objectionsToTabOrder(*form_), Objections()) << isCustom;
+        EXPECT_EQ(objectionsToMnemonics(*form_, sharedLetters), Objections()) << isCustom;
+        EXPECT_EQ(objectionsToNames(*form_), Objections()) << isCustom;
+        EXPECT_EQ(objectionsToSize(*form_), Objections()) << isCustom;
+    }
 }
 
 TEST_F(FinderWindow, StartsOnTheBirthOfWhoIsBornLater) {

@@ -14,10 +14,7 @@ class SavedGroup : public GroupTest {
   protected:
     QString pathOf(const char* fileName) { return directory_.path(QString::fromUtf8(fileName)); }
 
-    QByteArray bytesOf(const char* fileName) {
-        QFile file(pathOf(fileName));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
-    }
+    QByteArray bytesOf(const char* fileName) { return fileBytes(pathOf(fileName)); }
 
     void make(const char* fileName, const QByteArray& bytes) { makeFile(pathOf(fileName), bytes); }
 

@@ -164,6 +164,8 @@ TEST_F(ListViewTest, GivesAColumnItsWidthAndTheRestToTheOneThatHasNone) {
     EXPECT_EQ(view_.header()->count(), 1);
     EXPECT_EQ(view_.header()->sectionSize(0), 233);
     EXPECT_EQ(view_.model()->rowCount(), 3);
+    EXPECT_EQ(view_.currentIndex().row(), 0);
+    EXPECT_TRUE(selectedRows().isEmpty());
 }
 
 TEST_F(ListViewTest, LeavesNoRoomForBranchesAndMakesRowsAsHighAsTheirPictures) {

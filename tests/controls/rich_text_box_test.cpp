@@ -261,10 +261,7 @@ class RichTextFiles : public testing::Test {
   protected:
     QString path(const char* name) const { return folder_.filePath(QLatin1String(name)); }
 
-    QByteArray bytesOf(const char* name) const {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
-    }
+    QByteArray bytesOf(const char* name) const { return fileBytes(path(name)); }
 
     // A picture of an inch by half an inch.
     QString picture() const {

@@ -10,6 +10,7 @@
 #include "reports/report_driver.h"
 #include "rtf/rich_text_marks.h"
 #include "rtf/rtf_reader.h"
+#include "support/files.h"
 #include "support/other_programs.h"
 
 namespace {
@@ -25,8 +26,7 @@ class ExportedReport : public ReportWindowTest {
     QString folder() const { return QFileInfo(directory_.path(QStringLiteral("x"))).path(); }
 
     QByteArray bytesOf(const char* fileName) const {
-        QFile file(directory_.path(QLatin1String(fileName)));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        return fileBytes(directory_.path(QLatin1String(fileName)));
     }
 
     void save(const char* report) {

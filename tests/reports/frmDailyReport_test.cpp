@@ -11,6 +11,7 @@
 #include "rtf/rtf_reader.h"
 #include "shell/default_instance.h"
 #include "shell/frmWait.h"
+#include "support/files.h"
 
 namespace {
 
@@ -27,8 +28,7 @@ class ReportWindow : public ReportWindowTest {
     const FileQuestion& asked() { return host_.fileQuestions().back(); }
 
     QByteArray bytesOf(const char* fileName) {
-        QFile file(directory_.path(QLatin1String(fileName)));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
+        return fileBytes(directory_.path(QLatin1String(fileName)));
     }
 
     // The picture at the end of the report; a null one where there is none.

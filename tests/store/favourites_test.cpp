@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 
 #include "support/errors.h"
+#include "support/files.h"
 #include "support/recording_host.h"
 
 namespace {
@@ -16,10 +17,7 @@ class Favourites : public testing::Test {
   protected:
     Favourites() { host_.setProgramDirectory(directory_.path()); }
 
-    QByteArray bytesOf(const QString& name) {
-        QFile file(directory_.filePath(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
-    }
+    QByteArray bytesOf(const QString& name) { return fileBytes(directory_.filePath(name)); }
 
     QTemporaryDir directory_;
     RecordingHost host_;

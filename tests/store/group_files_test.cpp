@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 
 #include "support/errors.h"
+#include "support/files.h"
 #include "support/printing.h"
 #include "support/recording_host.h"
 
@@ -17,15 +18,10 @@ class GroupFiles : public testing::Test {
   protected:
     GroupFiles() { host_.setProgramDirectory(directory_.path()); }
 
-    QByteArray bytesOf(const QString& name) {
-        QFile file(directory_.filePath(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
-    }
+    QByteArray bytesOf(const QString& name) { return fileBytes(directory_.filePath(name)); }
 
     void writeBytes(const QString& name, const QByteArray& bytes) {
-        QFile file(directory_.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
+        makeFile(directory_.filePath(name), bytes);
     }
 
     using Members = std::vector<PersonRecord>;

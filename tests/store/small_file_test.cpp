@@ -16,10 +16,7 @@ namespace {
 
 class SmallFile : public testing::Test {
   protected:
-    QByteArray bytesOf(const QString& name) {
-        QFile file(folder_.filePath(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
-    }
+    QByteArray bytesOf(const QString& name) { return fileBytes(folder_.filePath(name)); }
 
     void make(const QString& name, const QByteArray& bytes = {}) {
         makeFile(folder_.filePath(name), bytes);

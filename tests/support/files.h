@@ -1,4 +1,4 @@
-// Files that tests write as they are.
+// Files that tests write and read as they are.
 #pragma once
 
 #include <QByteArray>
@@ -10,4 +10,10 @@ inline void makeFile(const QString& path, const QByteArray& bytes = {}) {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
         qFatal("%s cannot be written", qPrintable(path));
+}
+
+// What a file holds; "no such file" where there is none.
+inline QByteArray fileBytes(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
 }

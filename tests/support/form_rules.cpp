@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <algorithm>
 #include <map>
 
@@ -100,7 +101,9 @@ Objections objectionsToTabOrder(const QWidget& form) {
 Objections objectionsToNames(const QWidget& form) {
     Objections objections;
     for (const QWidget* control : form.findChildren<QWidget*>()) {
-        if (isTabStop(*control) && control->accessibleName().isEmpty() && !hasCaption(*control) &&
+        const bool tellsSomething =
+            isTabStop(*control) || qobject_cast<const QProgressBar*>(control);
+        if (tellsSomething && control->accessibleName().isEmpty() && !hasCaption(*control) &&
             !hasBuddyLabel(form, *control))
             objections.push_back(nameOf(*control) + " has no name for who cannot see it");
     }

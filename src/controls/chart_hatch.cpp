@@ -2,6 +2,8 @@
 #include "controls/chart_hatch.h"
 
 #include <QPainter>
+#include <cmath>
+#include <vector>
 
 namespace {
 
@@ -10,32 +12,39 @@ constexpr double kLineWidth = 15;
 constexpr double kLevelStep = 75;
 constexpr double kSlantedStep = 105;
 
+// Where lines lie between two places, a step apart from the first on.
+std::vector<double> placesOfLines(double first, double end, double step) {
+    std::vector<double> places;
+    const int lines = static_cast<int>(std::ceil((end - first) / step));
+    for (int line = 0; line < lines; ++line)
+        places.push_back(first + line * step);
+    return places;
+}
+
 class Hatch {
   public:
     Hatch(QPainter& painter, const QRectF& bar, double pixelsPerTwip)
         : painter_(painter), bar_(bar), scale_(pixelsPerTwip) {}
 
     void level() {
-        for (double y = bar_.bottom(); y > bar_.top(); y -= kLevelStep * scale_)
+        for (const double y : placesOfLines(bar_.top(), bar_.bottom(), kLevelStep * scale_))
             painter_.drawLine(QPointF(bar_.left(), y), QPointF(bar_.right(), y));
     }
 
     void standing() {
-        for (double x = bar_.left(); x < bar_.right(); x += kLevelStep * scale_)
+        for (const double x : placesOfLines(bar_.left(), bar_.right(), kLevelStep * scale_))
             painter_.drawLine(QPointF(x, bar_.top()), QPointF(x, bar_.bottom()));
     }
 
-    // Lines across the height of the bar, each from the place where it enters to the right or to
-    // the left of it.
+    // Lines as high as the bar that go as far to the right, or to the left, as they are high; the
+    // first and the last of them only touch it.
     void slanted(double direction) {
-        const double height = bar_.height();
-        for (double x = bar_.left() - height; x < bar_.right() + height;
-             x += kSlantedStep * scale_) {
-            const double slant = direction * height / 2;
-            const double middle = x + height / 2;
+        const double slant = direction * bar_.height() / 2;
+        const double reach = bar_.height() / 2;
+        for (const double middle :
+             placesOfLines(bar_.left() - reach, bar_.right() + reach, kSlantedStep * scale_))
             painter_.drawLine(QPointF(middle - slant, bar_.top()),
                               QPointF(middle + slant, bar_.bottom()));
-        }
     }
 
   private:

@@ -89,6 +89,19 @@ EVENTS = [
     ('everything found and painted', 'findEverything', None, 'ms'),
 ]
 
+# The reports, with as many people as the overview is to list: an aim is so many milliseconds.
+REPORTS = [
+    ('daily report shown', 'showDay', 30),
+    ('monthly chart shown', 'showMonth', 30),
+    ('daily report saved', 'saveDay', None),
+    ('daily report to a page', 'printDay', 20),
+    ('overview of 1,000 shown', 'showOverview', 150),
+    ('the same words in a plain box', 'showOverviewFloor', None),
+    ('rich text of 1 MB read', 'readRichText', 50),
+    ('the same written', 'writeRichText', 50),
+]
+REPORTED_PEOPLE = 1_000
+
 
 class Start:
     """One start of a program, which tells by first_paint.cpp what it has painted.
@@ -204,6 +217,13 @@ def print_events(times):
                   verdict(value if unit == 'ms' else value / floor, aim, unit))
 
 
+def print_reports(times):
+    print_row('reports', '', 'Ondara', '', '', 'aim')
+    for what, routine, aim in REPORTS:
+        print_row(what, '', f'{times[routine]:.3f} ms', '', '',
+                  verdict(times[routine], aim, 'ms'))
+
+
 def print_growth(routines):
     print_row('growth, per n log n', 'people', 'Ondara', 'floor', '', 'aim')
     few, many = 1_000, 100_000
@@ -224,10 +244,12 @@ def main():
             lay_out(programs, schema, interpretations, folder, people)
         starts = measure_starts(programs, folders)
         events = '|'.join(routine for _, routine, _, _ in EVENTS)
-        routines = {people: measure_routines(folder, f'-Favourites|{events}')
+        reports = '|'.join(f'{routine}/' for _, routine, _ in REPORTS)
+        routines = {people: measure_routines(folder, f'-Favourites|{events}|{reports}')
                     for people, folder in folders.items()}
         favourites = measure_routines(folders[PEOPLE[0]], 'Favourites')
         searches = measure_routines(folders[PEOPLE[0]], events)
+        reported = measure_routines(folders[REPORTED_PEOPLE], reports)
     print_starts(*starts)
     print()
     print_routines(routines)
@@ -237,6 +259,8 @@ def main():
     print_favourites(favourites)
     print()
     print_events(searches)
+    print()
+    print_reports(reported)
 
 
 if __name__ == '__main__':

@@ -143,19 +143,19 @@ void frmDailyReport::Form_Resize() {
 void frmDailyReport::mnuReportDaily_Click() {
     emptyReport();
     ShowDailyReport();
-    offerColour(ui_->chkColour_0);
+    offerColour(ColouredReport::Daily);
 }
 
 void frmDailyReport::mnuReportMonthly_Click() {
     emptyReport();
     ShowMonthlyReport();
-    offerColour(ui_->chkColour_1);
+    offerColour(ColouredReport::Monthly);
 }
 
 void frmDailyReport::mnuReportDatabase_Click() {
     emptyReport();
     modCycles::BuildDatabaseOverview(*ui_->rtbDaily);
-    offerColour(nullptr);
+    offerColour(ColouredReport::None);
 }
 
 void frmDailyReport::chkColour_0_Click() {
@@ -199,10 +199,9 @@ void frmDailyReport::emptyReport() {
     ui_->rtbDaily->setTextRTF({});
 }
 
-// Shows this box for colours, or none.
-void frmDailyReport::offerColour(const QCheckBox* box) {
-    for (QCheckBox* other : {ui_->chkColour_0, ui_->chkColour_1})
-        other->setVisible(other == box);
+void frmDailyReport::offerColour(ColouredReport report) {
+    ui_->chkColour_0->setVisible(report == ColouredReport::Daily);
+    ui_->chkColour_1->setVisible(report == ColouredReport::Monthly);
 }
 
 Date frmDailyReport::readBirthdate() const {

@@ -1,7 +1,6 @@
 // "Daily Report": the window in which the reports are shown, printed and saved.
 #pragma once
 
-#include <array>
 #include <memory>
 #include <span>
 
@@ -13,7 +12,6 @@ namespace Ui {
 class frmDailyReport;
 }
 class FileDialog;
-class QCheckBox;
 
 // The reports are on the person that is selected when the window is loaded, and on the date that is
 // selected when one is built. Nothing is built before the user asks for it. Every build empties the
@@ -30,6 +28,9 @@ class frmDailyReport final : public Form {
     void Form_KeyDown(QKeyEvent& key) override;
 
   private:
+    // The reports that are in colours or in black and white, each with a box for that.
+    enum class ColouredReport { None, Daily, Monthly };
+
     void chkColour_0_Click();
     void chkColour_1_Click();
     void cmdClose_Click();
@@ -45,7 +46,7 @@ class frmDailyReport final : public Form {
     void setUpDialog();
     void connectEvents();
     void emptyReport();
-    void offerColour(const QCheckBox* box);
+    void offerColour(ColouredReport report);
     void ShowDailyReport();
     void ShowMonthlyReport();
     Date readBirthdate() const;

@@ -7,12 +7,10 @@
 #include <QToolTip>
 #include <utility>
 
-#include "controls/bitmap.h"
 #include "controls/chart_painter.h"
 #include "controls/paper.h"
 #include "controls/twips.h"
 #include "runtime/errors.h"
-#include "runtime/host.h"
 
 Chart::Chart(QWidget* parent) : QWidget(parent) {
     setMouseTracking(true);
@@ -110,7 +108,7 @@ void Chart::setPenColour(int series, const QColor& colour) {
     update();
 }
 
-void Chart::setBrush(int series, const ChartBrush& brush) {
+void Chart::setBarBrush(int series, const ChartBrush& brush) {
     seriesAt(series).brush = brush;
     update();
 }
@@ -145,7 +143,7 @@ QPixmap Chart::picture(double enlargement) const {
     return picture;
 }
 
-void Chart::EditCopy() const {
+QImage Chart::paperPicture() const {
     constexpr double kDotsPerInch = 300;
     constexpr double kInchesPerMetre = 1 / 0.0254;
     constexpr double kDotsPerTwip = kDotsPerInch / kTwipsPerInch;
@@ -154,8 +152,7 @@ void Chart::EditCopy() const {
     picture.setDotsPerMeterY(qRound(kDotsPerInch * kInchesPerMetre));
     QPainter painter(&picture);
     paintChart(painter, content_, chartColours(paperPalette()), kDotsPerTwip);
-    painter.end();
-    host().setClipboardBitmap(bitmapOf(picture));
+    return picture;
 }
 
 MousePointerShape Chart::MousePointer() const {

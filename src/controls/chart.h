@@ -1,6 +1,7 @@
 // A line chart or bar chart of up to seven series.
 #pragma once
 
+#include <QImage>
 #include <QMarginsF>
 #include <QPixmap>
 #include <QWidget>
@@ -51,7 +52,7 @@ class Chart final : public QWidget {
     void setSeriesColour(int series, CycleColour colour);
     void setSeriesPattern(int series, PenPattern pattern);
     void setPenColour(int series, const QColor& colour);
-    void setBrush(int series, const ChartBrush& brush);
+    void setBarBrush(int series, const ChartBrush& brush);
     void setEdgeColour(int series, const QColor& colour);
 
     // The title stands at the top, shortened where it does not fit.
@@ -63,9 +64,8 @@ class Chart final : public QWidget {
     // The chart as it stands, so many times as large as on the screen.
     QPixmap picture(double enlargement) const;
 
-    // Copies the chart to the clipboard as it is drawn on paper: on white, with 300 dots to the
-    // inch.
-    void EditCopy() const;
+    // The chart as it is drawn on paper: on white, with 300 dots to the inch.
+    QImage paperPicture() const;
 
     MousePointerShape MousePointer() const;
     void setMousePointer(MousePointerShape shape);

@@ -58,6 +58,10 @@ Integer valueOf(const QCheckBox& box) {
     return kGrey;
 }
 
+void EditCopy(const Chart& chart) {
+    host().setClipboardBitmap(bitmapOf(chart.paperPicture()));
+}
+
 QRect pixels(const QRectF& twips) {
     return QRectF(twips.topLeft() / kTwipsPerPixel, twips.size() / kTwipsPerPixel).toRect();
 }
@@ -231,10 +235,10 @@ void frmDailyReport::PlaceDailyChart(const modCycles::CycleValues& values, Integ
         Chart& chart = *ui_->chtDaily;
         chart.setChartData(dailyChart(values, values.average()));
         for (int series = 1; series <= kReportSeries; ++series) {
-            chart.setBrush(series, dailyBrush(series, colour));
+            chart.setBarBrush(series, dailyBrush(series, colour));
             chart.setEdgeColour(series, Qt::black);
         }
-        chart.EditCopy();
+        EditCopy(chart);
     }
     placePicture();
 }
@@ -248,7 +252,7 @@ void frmDailyReport::PlaceMonthlyChart(std::span<const modCycles::ChartDay> days
             chart.setPenColour(series, pen.colour);
             chart.setSeriesPattern(series, pen.pattern);
         }
-        chart.EditCopy();
+        EditCopy(chart);
     }
     placePicture();
 }

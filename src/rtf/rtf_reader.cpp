@@ -94,7 +94,7 @@ class RtfReader {
     RichText read();
 
   private:
-    void take(const RtfToken& token);
+    void takeToken(const RtfToken& token);
     void beginGroup();
     void endGroup();
     void takeWord(QStringView word, std::optional<Long> number);
@@ -125,11 +125,11 @@ class RtfReader {
 
 RichText RtfReader::read() {
     while (!isOver_)
-        take(tokens_.next());
+        takeToken(tokens_.nextToken());
     return builder_.finish(state_.paragraph, format());
 }
 
-void RtfReader::take(const RtfToken& token) {
+void RtfReader::takeToken(const RtfToken& token) {
     switch (token.kind) {
         case RtfToken::Kind::GroupStart:
             beginGroup();

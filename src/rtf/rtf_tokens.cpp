@@ -46,17 +46,17 @@ std::optional<Long> byteValue(QStringView digits) {
 
 }  // namespace
 
-RtfToken RtfTokens::next() {
+RtfToken RtfTokens::nextToken() {
     rest_ = rest_.mid(std::find_if_not(rest_.begin(), rest_.end(), isLineEnd) - rest_.begin());
     if (rest_.isEmpty())
         return {RtfToken::Kind::End};
     switch (rest_.front().unicode()) {
         case u'{':
-            return {RtfToken::Kind::GroupStart, take(1)};
+            return {RtfToken::Kind::GroupStart, cut(1)};
         case u'}':
-            return {RtfToken::Kind::GroupEnd, take(1)};
+            return {RtfToken::Kind::GroupEnd, cut(1)};
         case u'\\':
-            take(1);
+            cut(1);
             return control();
         default:
             return text();
@@ -68,10 +68,10 @@ RtfToken RtfTokens::control() {
         return {RtfToken::Kind::End};
     if (isLetter(rest_.front()))
         return word();
-    const QStringView symbol = take(1);
+    const QStringView symbol = cut(1);
     if (symbol == u"'" && rest_.size() >= kByteDigits) {
         if (const std::optional<Long> byte = byteValue(rest_.first(kByteDigits)))
-            return {RtfToken::Kind::Byte, take(kByteDigits), byte};
+            return {RtfToken::Kind::Byte, cut(kByteDigits), byte};
     }
     return {RtfToken::Kind::Symbol, symbol};
 }
@@ -79,12 +79,12 @@ RtfToken RtfTokens::control() {
 // A blank behind a word belongs to it.
 RtfToken RtfTokens::word() {
     const QStringView name =
-        take(std::find_if_not(rest_.begin(), rest_.end(), isLetter) - rest_.begin());
+        cut(std::find_if_not(rest_.begin(), rest_.end(), isLetter) - rest_.begin());
     const std::optional<Long> number = wordNumber();
     if (!rest_.isEmpty() && rest_.front() == u' ')
-        take(1);
+        cut(1);
     if (name == u"bin")
-        return {RtfToken::Kind::Binary, take(std::max(Long{0}, number.value_or(0)))};
+        return {RtfToken::Kind::Binary, cut(std::max(Long{0}, number.value_or(0)))};
     return {RtfToken::Kind::Word, name, number};
 }
 
@@ -92,22 +92,22 @@ RtfToken RtfTokens::word() {
 std::optional<Long> RtfTokens::wordNumber() {
     const bool isNegative = rest_.size() > 1 && rest_[0] == u'-' && isDigit(rest_[1]);
     if (isNegative)
-        take(1);
+        cut(1);
     else if (rest_.isEmpty() || !isDigit(rest_.front()))
         return std::nullopt;
     constexpr std::int64_t kMost = std::numeric_limits<Long>::max();
     std::int64_t number = 0;
     while (!rest_.isEmpty() && isDigit(rest_.front()))
-        number = std::min(kMost, number * 10 + (take(1).front().unicode() - u'0'));
+        number = std::min(kMost, number * 10 + (cut(1).front().unicode() - u'0'));
     return static_cast<Long>(isNegative ? -number : number);
 }
 
 RtfToken RtfTokens::text() {
     return {RtfToken::Kind::Text,
-            take(std::find_if(rest_.begin(), rest_.end(), isSpecial) - rest_.begin())};
+            cut(std::find_if(rest_.begin(), rest_.end(), isSpecial) - rest_.begin())};
 }
 
-QStringView RtfTokens::take(qsizetype length) {
+QStringView RtfTokens::cut(qsizetype length) {
     const QStringView taken = rest_.first(std::min(length, rest_.size()));
     rest_ = rest_.mid(taken.size());
     return taken;

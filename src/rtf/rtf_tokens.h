@@ -30,14 +30,14 @@ class RtfTokens {
     explicit RtfTokens(QStringView document) : rest_(document) {}
 
     // The next one; End from the end on.
-    RtfToken next();
+    RtfToken nextToken();
 
   private:
     RtfToken control();
     RtfToken word();
     RtfToken text();
     std::optional<Long> wordNumber();
-    QStringView take(qsizetype length);
+    QStringView cut(qsizetype length);
 
     QStringView rest_;
 };

@@ -36,7 +36,8 @@ QString described(const RtfToken& token) {
 QStringList tokensOf(QStringView document) {
     RtfTokens tokens(document);
     QStringList all;
-    for (RtfToken token = tokens.next(); token.kind != RtfToken::Kind::End; token = tokens.next())
+    for (RtfToken token = tokens.nextToken(); token.kind != RtfToken::Kind::End;
+         token = tokens.nextToken())
         all += described(token);
     return all;
 }

@@ -2,6 +2,7 @@
 #include "controls/chart_hatch.h"
 
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -14,8 +15,9 @@ constexpr double kSlantedStep = 105;
 
 // Where lines lie between two places, a step apart from the first on.
 std::vector<double> placesOfLines(double first, double end, double step) {
+    const int lines = std::max(0, static_cast<int>(std::ceil((end - first) / step)));
     std::vector<double> places;
-    const int lines = static_cast<int>(std::ceil((end - first) / step));
+    places.reserve(static_cast<std::size_t>(lines));
     for (int line = 0; line < lines; ++line)
         places.push_back(first + line * step);
     return places;

@@ -10,6 +10,7 @@
 #include <QTextDocument>
 
 #include "controls/text_colours.h"
+#include "rtf/every_format.h"
 #include "rtf/rich_text_marks.h"
 
 namespace {
@@ -43,13 +44,7 @@ class RichTextDocument : public testing::Test {
 }  // namespace
 
 TEST_F(RichTextDocument, ShowsEveryFormat) {
-    const RichFormat all{.font = QStringLiteral("DejaVu Sans"),
-                         .points = 10.5,
-                         .isBold = true,
-                         .isItalic = true,
-                         .isUnderlined = true,
-                         .isStruckOut = true,
-                         .colour = 0x010203};
+    const RichFormat all = everyFormat(QStringLiteral("DejaVu Sans"));
     const RichFormat plain{.font = QStringLiteral("DejaVu Serif")};
     const RichText text{
         {.format = {.alignment = RichAlignment::Centre,

@@ -5,6 +5,7 @@
 
 #include "cycles/calendar.h"
 #include "reports/report_pieces.h"
+#include "reports/reported_person.h"
 #include "support/printing.h"
 #include "support/recording_host.h"
 
@@ -13,14 +14,6 @@ using modCycles::DateSerial;
 namespace {
 
 constexpr Integer kGrey = 2;
-
-const ReportPerson kAnna{.fullName = QStringLiteral("Anna Smith"),
-                         .birthdate = DateSerial(1972, 10, 2),
-                         .birthText = QStringLiteral("Monday, 2 October 1972"),
-                         .starSign = QStringLiteral("Libra"),
-                         .gender = QStringLiteral("Female"),
-                         .category = QStringLiteral("Family"),
-                         .notes = QStringLiteral("Likes tea.")};
 
 const ReportDay kDay{.date = DateSerial(2000, 3, 4),
                      .values = {.emotional = 62.3, .physical = -99.5, .intellectual = 5},

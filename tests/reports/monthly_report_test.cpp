@@ -5,6 +5,7 @@
 
 #include "cycles/calendar.h"
 #include "reports/report_pieces.h"
+#include "reports/reported_person.h"
 #include "support/errors.h"
 #include "support/printing.h"
 #include "support/recording_host.h"
@@ -12,14 +13,6 @@
 using modCycles::DateSerial;
 
 namespace {
-
-const ReportPerson kAnna{.fullName = QStringLiteral("Anna Smith"),
-                         .birthdate = DateSerial(1972, 10, 2),
-                         .birthText = QStringLiteral("Monday, 2 October 1972"),
-                         .starSign = QStringLiteral("Libra"),
-                         .gender = QStringLiteral("Female"),
-                         .category = QStringLiteral("Family"),
-                         .notes = QStringLiteral("Likes tea.")};
 
 class MonthlyReport : public testing::Test {
   protected:

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "rtf/every_format.h"
 #include "rtf/rich_text_marks.h"
 #include "rtf/rtf_reader.h"
 #include "support/properties.h"
@@ -45,13 +46,7 @@ TEST(RtfWriter, WritesWhatIsReadAgain) {
 }
 
 TEST(RtfWriter, WritesEveryFormat) {
-    const RichFormat all{.font = QStringLiteral("Ünder Font"),
-                         .points = 10.5,
-                         .isBold = true,
-                         .isItalic = true,
-                         .isUnderlined = true,
-                         .isStruckOut = true,
-                         .colour = 0x010203};
+    const RichFormat all = everyFormat(QStringLiteral("Ünder Font"));
     RichText text = ofOne(QStringLiteral("a"), all);
     text.front().runs.push_back({QStringLiteral("b"), {}});
     text.front().runs.push_back({QStringLiteral("c"), {.colour = 0}});

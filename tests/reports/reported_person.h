@@ -1,0 +1,13 @@
+// A person for the documents of the reports.
+#pragma once
+
+#include "cycles/calendar.h"
+#include "reports/report_person.h"
+
+inline const ReportPerson kAnna{.fullName = QStringLiteral("Anna Smith"),
+                                .birthdate = modCycles::DateSerial(1972, 10, 2),
+                                .birthText = QStringLiteral("Monday, 2 October 1972"),
+                                .starSign = QStringLiteral("Libra"),
+                                .gender = QStringLiteral("Female"),
+                                .category = QStringLiteral("Family"),
+                                .notes = QStringLiteral("Likes tea.")};

@@ -166,6 +166,15 @@ TEST_F(ExportedReport, IsPrintedWordForWordWithinTheMargins) {
     EXPECT_NEAR(wordPlaces(1).front().top(), kInch, 6);
 }
 
+TEST_F(ExportedReport, IsThePromptWhereNoneWasChosen) {
+    SKIP_WITHOUT("pdftotext");
+    open();
+    print();
+    EXPECT_EQ(linesOf(QString::fromUtf8(outputOf(
+                  "pdftotext", {QStringLiteral("printed.pdf"), QStringLiteral("-")}, folder()))),
+              QStringList(QStringLiteral("Select a report from the 'Report' menu")));
+}
+
 TEST_F(ExportedReport, IsPrintedWithItsPicture) {
     SKIP_WITHOUT("pdfimages");
     open();

@@ -1,6 +1,7 @@
 // The report window: its reports, its size, printing and saving.
 #include "reports/frmDailyReport.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
@@ -29,6 +30,10 @@ class ReportWindow : public ReportWindowTest {
 
     QByteArray bytesOf(const char* fileName) {
         return fileBytes(directory_.path(QLatin1String(fileName)));
+    }
+
+    QStringList filesBesideTheProgram() {
+        return QFileInfo(directory_.people()).dir().entryList(QDir::Files);
     }
 
     // The picture at the end of the report; a null one where there is none.
@@ -164,6 +169,20 @@ TEST_F(ReportWindow, EndsTheProgramInGreyWithoutAPictureOnTheClipboard) {
     host_.forgetExit();
 }
 
+TEST_F(ReportWindow, EndsTheProgramWhereThePictureCannotBeWritten) {
+    open();
+    const QString path = directory_.path(QStringLiteral("tempchart.bmp"));
+    ASSERT_TRUE(QDir().mkdir(path));
+    host_.expectMessage(QStringLiteral("Run-time error '75':\n\nPath/File access error: Filename "
+                                       "refers to a directory, ") +
+                        QDir::toNativeSeparators(path));
+    choose("mnuReportDaily");
+    EXPECT_EQ(host_.exitCode(), 1);
+    EXPECT_TRUE(host_.clipboard());
+    EXPECT_TRUE(picture().isNull());
+    host_.forgetExit();
+}
+
 TEST_F(ReportWindow, EndsTheProgramWhereThePersonIsGone) {
     open();
     runSql(directory_.people(), QStringLiteral("DELETE FROM Data WHERE Name = 'Smith'"));
@@ -276,8 +295,10 @@ TEST_F(ReportWindow, AsksBeforeOverwritingFromTheSecondTimeOn) {
 
 TEST_F(ReportWindow, SavesNothingWhereTheFirstQuestionIsCancelled) {
     open();
+    const QStringList before = filesBesideTheProgram();
     cancelSaving();
     EXPECT_EQ(host_.exitCode(), std::nullopt);
+    EXPECT_EQ(filesBesideTheProgram(), before);
 }
 
 TEST_F(ReportWindow, WritesTheLastFileAgainWhereALaterQuestionIsCancelled) {

@@ -137,12 +137,15 @@ std::optional<ChosenFile> DesktopHost::chooseFile(const FileQuestion& question) 
 }
 
 std::optional<QByteArray> DesktopHost::clipboardBitmap() {
-    const QImage picture = QApplication::clipboard()->image();
+    const QClipboard* clipboard = QApplication::clipboard();
+    if (const auto* own = qobject_cast<const BitmapData*>(clipboard->mimeData()))
+        return own->file();
+    const QImage picture = clipboard->image();
     return picture.isNull() ? std::nullopt : std::optional(bitmapOf(picture));
 }
 
 void DesktopHost::setClipboardBitmap(const QByteArray& file) {
-    QApplication::clipboard()->setImage(pictureOf(file));
+    QApplication::clipboard()->setMimeData(new BitmapData(file));
 }
 
 void DesktopHost::clearClipboard() {

@@ -147,12 +147,13 @@ class Composition {
 };
 
 RichPicture richPicture(const QTextDocument& document, const QTextImageFormat& format) {
+    constexpr int kQuickly = 80;  // zlib's first level, for a file a little larger
     RichPicture picture{.width = twips(format.width()), .height = twips(format.height())};
     QBuffer buffer(&picture.file);
     buffer.open(QIODevice::WriteOnly);
     document.resource(QTextDocument::ImageResource, QUrl(format.name()))
         .value<QImage>()
-        .save(&buffer, "PNG");
+        .save(&buffer, "PNG", kQuickly);
     return picture;
 }
 

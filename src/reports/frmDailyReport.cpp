@@ -22,9 +22,9 @@
 #include "shell/main_controls.h"
 #include "store/databases.h"
 #include "store/recordset.h"
+#include "store/scratch_file.h"
 #include "store/small_file.h"
 #include "store/statements.h"
-#include "store/whole_file.h"
 #include "ui_frmDailyReport.h"
 
 namespace {
@@ -266,7 +266,7 @@ void frmDailyReport::placePicture() {
     if (!bitmap)
         throw RuntimeError(ErrorNumber::InvalidPropertyValue);
     ui_->Picture1->setPixmap(QPixmap::fromImage(pictureOf(*bitmap)));
-    writeWholeFile(path, *bitmap);
+    writeScratchFile(path, *bitmap);
     ui_->rtbDaily->addPicture(path);
     ui_->rtbDaily->setSelStart(0);
     ui_->Picture1->clear();

@@ -1,13 +1,15 @@
-// The message boxes of the desktop, and its help.
+// The message boxes of the desktop, its clipboard, and its help.
 #include "controls/desktop_host.h"
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QMessageBox>
 #include <QTimer>
 #include <QWindow>
 
+#include "controls/bitmap.h"
 #include "controls/help_browser.h"
 #include "controls/help_window.h"
 #include "support/help_files.h"
@@ -33,6 +35,12 @@ class DesktopHostTest : public testing::Test {
         return host_.showMessage(message);
     }
 
+    static QImage redPicture() {
+        QImage picture(3, 2, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        return picture;
+    }
+
     DesktopHost host_;
 };
 
@@ -48,6 +56,26 @@ TEST_F(DesktopHostTest, ShowsTextTitleIconAndButtons) {
         EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
     });
     EXPECT_EQ(answer, Answer::Ok);
+}
+
+TEST_F(DesktopHostTest, CopiesABitmapForItselfAndOthers) {
+    const QByteArray file = bitmapOf(redPicture());
+    host_.setClipboardBitmap(file);
+    EXPECT_EQ(host_.clipboardBitmap(), file);
+    EXPECT_EQ(QApplication::clipboard()->image().pixelColor(1, 1), QColor(Qt::red));
+    EXPECT_EQ(QApplication::clipboard()->text(), QString());
+    host_.clearClipboard();
+    EXPECT_EQ(host_.clipboardBitmap(), std::nullopt);
+}
+
+TEST_F(DesktopHostTest, TakesThePictureThatAnotherProgramHasCopied) {
+    QApplication::clipboard()->setImage(redPicture());
+    const std::optional<QByteArray> file = host_.clipboardBitmap();
+    ASSERT_TRUE(file);
+    EXPECT_EQ(pictureOf(*file).pixelColor(1, 1), QColor(Qt::red));
+    QApplication::clipboard()->setText(QStringLiteral("no picture"));
+    EXPECT_EQ(host_.clipboardBitmap(), std::nullopt);
+    host_.clearClipboard();
 }
 
 TEST_F(DesktopHostTest, IsWideEnoughForItsTitle) {

@@ -173,8 +173,8 @@ TEST_F(ReportWindow, EndsTheProgramWhereThePictureCannotBeWritten) {
     open();
     const QString path = directory_.path(QStringLiteral("tempchart.bmp"));
     ASSERT_TRUE(QDir().mkdir(path));
-    host_.expectMessage(QStringLiteral("Run-time error '75':\n\nPath/File access error: Filename "
-                                       "refers to a directory, ") +
+    host_.expectMessage(QStringLiteral("Run-time error '75':\n\nPath/File access error: Is a "
+                                       "directory, ") +
                         QDir::toNativeSeparators(path));
     choose("mnuReportDaily");
     EXPECT_EQ(host_.exitCode(), 1);

@@ -11,6 +11,7 @@
 #include "shell/frmWait.h"
 #include "shell/main_controls.h"
 #include "store/databases.h"
+#include "store/interpretation.h"
 #include "store/person_entry.h"
 #include "store/statements.h"
 #include "ui_frmCritical.h"
@@ -211,12 +212,8 @@ void frmCritical::showFinds(const SpanFinds& finds) {
 }
 
 void frmCritical::showInterpretation(const modCycles::DayLevels& levels) {
-    Connection connection = openInterpretationDatabase();
-    const Recordset row(
-        connection,
-        statements::interpretation(levels.emotional, levels.physical, levels.intellectual),
-        adLockReadOnly);
-    ui_->rtbInterp->setText(row.Fields(u"interp").toText());
+    ui_->rtbInterp->setText(
+        readInterpretation(levels.emotional, levels.physical, levels.intellectual).toText());
 }
 
 void frmCritical::FillCriticalText() {

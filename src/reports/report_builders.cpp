@@ -8,6 +8,7 @@
 #include "reports/monthly_report.h"
 #include "shell/main_controls.h"
 #include "store/databases.h"
+#include "store/interpretation.h"
 #include "store/recordset.h"
 #include "store/statements.h"
 
@@ -24,14 +25,9 @@ Integer signOf(double value) {
     return static_cast<Integer>((value > 0) - (value < 0));
 }
 
-QString readInterpretation(const modCycles::CycleValues& values) {
-    Connection connection = openInterpretationDatabase();
-    const Recordset row(
-        connection,
-        statements::interpretation(signOf(values.emotional), signOf(values.physical),
-                                   signOf(values.intellectual)),
-        adLockReadOnly);
-    return textOrNothing(row.Fields(u"interp"));
+QString interpretationOf(const modCycles::CycleValues& values) {
+    return textOrNothing(readInterpretation(signOf(values.emotional), signOf(values.physical),
+                                            signOf(values.intellectual)));
 }
 
 // The document is longer than the text it shows, so the caret comes to rest at the end.
@@ -52,7 +48,7 @@ void BuildDailyReport(Long personId, double emotional, double physical, double i
                         {.date = mainControls().dtpSelDate->Value(),
                          .values = values,
                          .average = average,
-                         .interpretation = readInterpretation(values)},
+                         .interpretation = interpretationOf(values)},
                         colour),
             target);
 }

@@ -16,3 +16,9 @@ void writeScratchFile(const QString& path, const QByteArray& bytes) {
     QFile::remove(path);
     throw error;
 }
+
+void deleteScratchFile(const QString& path) {
+    QFile file(path);
+    if (!file.remove())
+        throw fileError(file);
+}

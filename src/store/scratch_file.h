@@ -8,3 +8,5 @@
 // no use to anybody. Where it cannot be written, nothing is left of it. The error is that of
 // file_error.h: 61 for a full disk, else 75.
 void writeScratchFile(const QString& path, const QByteArray& bytes);
+
+void deleteScratchFile(const QString& path);

@@ -19,6 +19,15 @@ TEST(ScratchFile, HoldsTheBytesAndNoneThatWereThere) {
     EXPECT_EQ(fileBytes(path), QByteArray("a\0b", 3));
 }
 
+TEST(ScratchFile, IsGoneAfterwards) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("scratch"));
+    writeScratchFile(path, "a");
+    deleteScratchFile(path);
+    EXPECT_FALSE(QFile::exists(path));
+    EXPECT_EQ(errorOf([&] { deleteScratchFile(path); }), 75);
+}
+
 TEST(ScratchFile, CannotBeWrittenOverAFolder) {
     const QTemporaryDir folder;
     EXPECT_EQ(errorOf([&] { writeScratchFile(folder.path(), "a"); }), 75);

@@ -1,17 +1,20 @@
-// The message boxes of the desktop, its clipboard, and its help.
+// The boxes of the desktop, its questions for files, its clipboard, and its help.
 #include "controls/desktop_host.h"
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QClipboard>
+#include <QFileDialog>
 #include <QMessageBox>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QWindow>
 
 #include "controls/bitmap.h"
 #include "controls/help_browser.h"
 #include "controls/help_window.h"
+#include "support/files.h"
 #include "support/help_files.h"
 #include "support/printing.h"
 #include "support/widget_driver.h"
@@ -41,6 +44,30 @@ class DesktopHostTest : public testing::Test {
         return picture;
     }
 
+    // Asks for a file, lets `act` do what the user does in the dialog, and closes it by `slot`.
+    template <class Act>
+    std::optional<ChosenFile> chosen(const FileQuestion& question, const char* slot, Act act) {
+        QTimer shown;
+        shown.setSingleShot(true);
+        QObject::connect(&shown, &QTimer::timeout, &shown, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            act(*dialog);
+            QMetaObject::invokeMethod(dialog, slot);
+        });
+        shown.start(0);
+        return host_.chooseFile(question);
+    }
+
+    FileQuestion saving() const {
+        return {.purpose = FilePurpose::Save,
+                .title = QStringLiteral("Save"),
+                .folder = folder_.path(),
+                .filters = {QStringLiteral("Rich (*.rtf)"), QStringLiteral("All files (*.*)")},
+                .defaultExtension = QStringLiteral("rtf")};
+    }
+
+    QTemporaryDir folder_;
     DesktopHost host_;
 };
 
@@ -56,6 +83,44 @@ TEST_F(DesktopHostTest, ShowsTextTitleIconAndButtons) {
         EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
     });
     EXPECT_EQ(answer, Answer::Ok);
+}
+
+TEST_F(DesktopHostTest, AsksForTheNameOfAFileToSave) {
+    const auto file = chosen(saving(), "accept", [this](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), u"Save");
+        EXPECT_EQ(dialog.directory(), QDir(folder_.path()));
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_EQ(dialog.selectedNameFilter(), u"Rich (*.rtf)");
+        EXPECT_TRUE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
+        dialog.selectNameFilter(QStringLiteral("All files (*.*)"));
+        dialog.selectFile(QStringLiteral("report"));
+    });
+    ASSERT_TRUE(file);
+    EXPECT_EQ(file->path, folder_.filePath(QStringLiteral("report.rtf")));
+    EXPECT_EQ(file->filterIndex, 2);
+}
+
+TEST_F(DesktopHostTest, AsksBeforeOverwritingWhereItIsTold) {
+    FileQuestion question = saving();
+    question.asksBeforeOverwriting = true;
+    const auto file = chosen(question, "reject", [](const QFileDialog& dialog) {
+        EXPECT_FALSE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
+    });
+    EXPECT_FALSE(file);
+}
+
+TEST_F(DesktopHostTest, AsksForAFileThatIsThereToOpenIt) {
+    FileQuestion question = saving();
+    question.purpose = FilePurpose::Open;
+    makeFile(folder_.filePath(QStringLiteral("old.rtf")), "old");
+    const auto file = chosen(question, "accept", [](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
+        EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
+        dialog.selectFile(QStringLiteral("old.rtf"));
+    });
+    ASSERT_TRUE(file);
+    EXPECT_EQ(file->path, folder_.filePath(QStringLiteral("old.rtf")));
+    EXPECT_EQ(file->filterIndex, 1);
 }
 
 TEST_F(DesktopHostTest, CopiesABitmapForItselfAndOthers) {

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "runtime/errors.h"
+#include "support/event_counter.h"
 #include "support/recording_host.h"
 #include "support/widget_driver.h"
 
@@ -32,6 +33,7 @@ class Probe : public Form {
 
     using Form::isAtWork;
     using Form::isClosing;
+    using Form::setDefaultButton;
     using Form::work;
 
   protected:
@@ -63,6 +65,41 @@ TEST_F(FormLife, LoadsOnceBeforeItIsShown) {
     form.Show();
     EXPECT_TRUE(form.isVisible());
     EXPECT_EQ(form.happened, Strings{QStringLiteral("load")});
+}
+
+TEST_F(FormLife, PressesItsDefaultButtonByEnter) {
+    Probe form;
+    form.setDefaultButton(form.button);
+    const EventCounter presses(form.button, &QPushButton::clicked);
+    form.Show();
+    form.box.setFocus();
+    pressKey(form.box, Qt::Key_Space);
+    EXPECT_EQ(presses.fired(), 0);
+    pressKey(form.box, Qt::Key_Return);
+    EXPECT_EQ(presses.fired(), 1);
+    form.box.setFocus();
+    pressKey(form.box, Qt::Key_Enter);
+    EXPECT_EQ(presses.fired(), 2);
+}
+
+TEST_F(FormLife, LeavesEnterToTheButtonThatHasTheFocus) {
+    Probe form;
+    QPushButton other(&form);
+    form.setDefaultButton(form.button);
+    const EventCounter presses(form.button, &QPushButton::clicked);
+    form.Show();
+    other.setFocus();
+    pressKey(other, Qt::Key_Return);
+    EXPECT_EQ(presses.fired(), 0);
+}
+
+TEST_F(FormLife, PressesNothingByEnterWithoutADefaultButton) {
+    Probe form;
+    const EventCounter presses(form.button, &QPushButton::clicked);
+    form.Show();
+    form.box.setFocus();
+    pressKey(form.box, Qt::Key_Return);
+    EXPECT_EQ(presses.fired(), 0);
 }
 
 TEST_F(FormLife, UnloadsOnceHoweverItCloses) {

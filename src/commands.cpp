@@ -99,11 +99,11 @@ void Commands::mnuReport_Click() {
         return;
     modCycles::ReportToScreen = true;
     dlgScreenPrinter(&window_).ShowModal();
-    if (modCycles::ReportToScreen || isPrinterReady())
+    if (modCycles::ReportToScreen || mayTalkToPrinter())
         openSlowForm<frmDailyReport>();
 }
 
-bool Commands::isPrinterReady() {
+bool Commands::mayTalkToPrinter() {
     const Message question{
         .text = QStringLiteral(
             "Ondara needs to communicate with the printer to collect information. Make sure the "

@@ -37,7 +37,7 @@ class Commands final : public QObject {
 
     // Whether there is a person; without one the user gets the request.
     bool isPersonChosen(const QString& request);
-    bool isPrinterReady();
+    bool mayTalkToPrinter();
 
     frmMain& window_;
 };

@@ -27,12 +27,14 @@ enum class PenPattern { Solid = 1, Dashed = 2, Dotted = 3, Ditted = 6 };
 
 enum class BrushStyle { Solid = 1, Pattern = 2 };
 
-// What a bar is filled with. A pattern is a hatch in its own colour on the fill, known by its
-// number in chart_hatch.h.
+// The lines of a pattern: level, standing, falling to the right, or level and standing ones.
+enum class Hatch { Level = 10, Standing = 11, Falling = 12, Crossed = 14 };
+
+// What a bar is filled with. A pattern is a hatch in its own colour on the fill.
 struct ChartBrush {
     QColor fill;
     BrushStyle style = BrushStyle::Solid;
-    int hatch = 0;
+    Hatch hatch = Hatch::Level;
     QColor patternColour = {};
 
     friend bool operator==(const ChartBrush&, const ChartBrush&) = default;

@@ -23,9 +23,9 @@ std::vector<double> placesOfLines(double first, double end, double step) {
     return places;
 }
 
-class Hatch {
+class HatchLines {
   public:
-    Hatch(QPainter& painter, const QRectF& bar, double pixelsPerTwip)
+    HatchLines(QPainter& painter, const QRectF& bar, double pixelsPerTwip)
         : painter_(painter), bar_(bar), scale_(pixelsPerTwip) {}
 
     void level() {
@@ -38,15 +38,14 @@ class Hatch {
             painter_.drawLine(QPointF(x, bar_.top()), QPointF(x, bar_.bottom()));
     }
 
-    // Lines as high as the bar that go as far to the right, or to the left, as they are high; the
-    // first and the last of them only touch it.
-    void slanted(double direction) {
-        const double slant = direction * bar_.height() / 2;
+    // Lines as high as the bar that go as far to the right as they are high; the first and the last
+    // of them only touch it.
+    void falling() {
         const double reach = bar_.height() / 2;
         for (const double middle :
              placesOfLines(bar_.left() - reach, bar_.right() + reach, kSlantedStep * scale_))
-            painter_.drawLine(QPointF(middle - slant, bar_.top()),
-                              QPointF(middle + slant, bar_.bottom()));
+            painter_.drawLine(QPointF(middle - reach, bar_.top()),
+                              QPointF(middle + reach, bar_.bottom()));
     }
 
   private:
@@ -62,14 +61,12 @@ void paintHatch(QPainter& painter, const QRectF& bar, const ChartBrush& brush,
     painter.save();
     painter.setClipRect(bar, Qt::IntersectClip);
     painter.setPen(QPen(brush.patternColour, kLineWidth * pixelsPerTwip));
-    Hatch hatch(painter, bar, pixelsPerTwip);
-    if (brush.hatch == 10 || brush.hatch == 14)
-        hatch.level();
-    if (brush.hatch == 11 || brush.hatch == 14)
-        hatch.standing();
-    if (brush.hatch == 12)
-        hatch.slanted(1);
-    if (brush.hatch == 13)
-        hatch.slanted(-1);
+    HatchLines lines(painter, bar, pixelsPerTwip);
+    if (brush.hatch == Hatch::Level || brush.hatch == Hatch::Crossed)
+        lines.level();
+    if (brush.hatch == Hatch::Standing || brush.hatch == Hatch::Crossed)
+        lines.standing();
+    if (brush.hatch == Hatch::Falling)
+        lines.falling();
     painter.restore();
 }

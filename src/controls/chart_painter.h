@@ -18,7 +18,7 @@ struct ChartColours {
     std::array<QColor, kCycleColours> cycles;  // in the order of CycleColour
 };
 
-// The colours for the screen.
+// The colours on a palette's base.
 ChartColours chartColours(const QPalette& palette);
 
 // Paints the chart with its top left corner at the painter's origin. The scale is 1 / 15 for the

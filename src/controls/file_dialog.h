@@ -23,14 +23,12 @@ class FileDialog final : public QObject {
     void setDialogTitle(const QString& title) { title_ = title; }
     void setInitDir(const QString& folder) { folder_ = folder; }
 
-    // Captions and patterns in turn: "Rich Text (*.rtf)|*.rtf|All files (*.*)|*.*". The patterns
-    // are those in the captions.
+    // Captions and patterns in turn: "Rich Text (*.rtf)|*.rtf|All files (*.*)|*.*". The dialog goes
+    // by the patterns in the captions; those behind them are passed over.
     void setFilter(const QString& filter);
 
-    const QString& DefaultExt() const { return defaultExtension_; }
     void setDefaultExt(const QString& extension) { defaultExtension_ = extension; }
 
-    Long Flags() const { return flags_; }
     void setFlags(Long flags) { flags_ = flags; }
 
     // The filter that was chosen, counted from 1; 0 for none.

@@ -10,9 +10,9 @@ class QPushButton;
 
 // A form is loaded before it is shown and unloaded when it closes, however it closes. Keys reach
 // Form_KeyDown before the control that has the focus. Esc closes nothing by itself, and Enter
-// presses nothing but a button that has the focus, or else the default button of a form that has
-// one. A button that is pressed takes the focus first,
-// so that whichever control had it has heard that it lost it.
+// presses nothing but a button that has the focus, or else the form's default button if there is
+// one. A button that is pressed takes the focus first, so that whichever control had it has heard
+// that it lost it.
 //
 // Work of many steps may yield between them, so that the window stays alive. A window that is
 // closed then is unloaded when the work has ended, which Form_Cancel asks it to do.

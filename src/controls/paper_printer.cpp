@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr double kTwipsPerPoint = 20;
-
 Long twips(double points) {
     return static_cast<Long>(std::lround(points * kTwipsPerPoint));
 }
@@ -33,14 +31,6 @@ Long PaperPrinter::Width() const {
 
 Long PaperPrinter::Height() const {
     return twips(printer_->paperRect(QPrinter::Point).height());
-}
-
-Long PaperPrinter::ScaleWidth() const {
-    return twips(printer_->pageRect(QPrinter::Point).width());
-}
-
-Long PaperPrinter::ScaleHeight() const {
-    return twips(printer_->pageRect(QPrinter::Point).height());
 }
 
 Long PaperPrinter::physicalOffsetX() const {

@@ -9,7 +9,8 @@
 class QPrinter;
 
 // The whole of what the printer can reach is printed on. A job goes to the printer with its first
-// drop of ink: one that is dropped before that leaves no trace.
+// drop of ink: one that is dropped before that leaves no trace, and one that is dropped behind it
+// may come out as far as it went, by the printer. A job that is not ended is dropped with it.
 class PaperPrinter final : public Printer {
   public:
     explicit PaperPrinter(std::unique_ptr<QPrinter> printer);
@@ -17,8 +18,6 @@ class PaperPrinter final : public Printer {
 
     Long Width() const override;
     Long Height() const override;
-    Long ScaleWidth() const override;
-    Long ScaleHeight() const override;
     Long physicalOffsetX() const override;
     Long physicalOffsetY() const override;
     double ScaleX(Long dots) const override;

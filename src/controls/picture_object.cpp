@@ -23,13 +23,13 @@ void PictureObject::drawObject(QPainter* painter, const QRectF& place, QTextDocu
         document->resource(QTextDocument::ImageResource, QUrl(format.toImageFormat().name()))
             .value<QImage>();
     const QSize size = painter->deviceTransform().mapRect(place).size().toSize();
-    if (size.width() < picture.width() && size.height() < picture.height())
+    if (size.width() < picture.width() || size.height() < picture.height())
         painter->drawImage(place, scaled(picture, size));
     else
         painter->drawImage(place, picture);
 }
 
-// A page is painted again with every line that it is moved by.
+// Scrolling paints a picture again at every step, so its last scaling is kept.
 const QImage& PictureObject::scaled(const QImage& picture, QSize size) {
     if (scaledFrom_ != picture.cacheKey() || scaled_.size() != size) {
         scaledFrom_ = picture.cacheKey();

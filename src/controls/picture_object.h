@@ -11,7 +11,7 @@ class PictureObject final : public QObject, public QTextObjectInterface {
     Q_INTERFACES(QTextObjectInterface)
 
   public:
-    // Lives as long as the document.
+    // From now on, for as long as the document lives.
     static void paintPicturesOf(QTextDocument& document);
 
     QSizeF intrinsicSize(QTextDocument* document, int position, const QTextFormat& format) override;

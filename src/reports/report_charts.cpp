@@ -3,32 +3,30 @@
 
 #include <array>
 
-#include "reports/report_pieces.h"
-#include "shell/chart_table.h"
+#include "reports/report_colour.h"
 
 namespace {
 
 const std::array<QColor, kReportSeries> kFills{QColor(0, 0, 255), QColor(255, 0, 0),
                                                QColor(0, 255, 0), QColor(125, 125, 125)};
-constexpr std::array<int, kReportSeries> kHatches{11, 12, 14, 10};
+constexpr std::array kHatches{Hatch::Standing, Hatch::Falling, Hatch::Crossed, Hatch::Level};
+constexpr std::array kNames{"Emotional", "Physical", "Intellectual", "Average"};
 constexpr std::array kPatterns{PenPattern::Dashed, PenPattern::Ditted, PenPattern::Dotted};
 
 std::size_t indexOf(int series) {
+    Q_ASSERT(series >= 1 && series <= kReportSeries);
     return static_cast<std::size_t>(series - 1);
 }
 
 }  // namespace
 
+QString reportSeriesName(int series) {
+    return QLatin1String(kNames[indexOf(series)]);
+}
+
 ChartTable dailyChart(const modCycles::CycleValues& values, double average) {
     return {.rowLabels = {QStringLiteral("Cycle")},
             .columns = {{values.emotional}, {values.physical}, {values.intellectual}, {average}}};
-}
-
-ChartTable monthlyChart(std::span<const modCycles::ChartDay> days) {
-    ChartTable table{.rowLabels = modCycles::dateLabels(days), .columns = {}};
-    modCycles::addCycleColumns(table, days);
-    modCycles::addAverageColumn(table, days);
-    return table;
 }
 
 ChartBrush dailyBrush(int series, Integer colour) {
@@ -41,6 +39,7 @@ ChartBrush dailyBrush(int series, Integer colour) {
 }
 
 ChartPen monthlyPen(int series, Integer colour) {
+    Q_ASSERT(series <= kReportCycles);
     if (colour == kInColour)
         return {kFills[indexOf(series)], PenPattern::Solid};
     return {QColor(0, 0, 0), kPatterns[indexOf(series)]};

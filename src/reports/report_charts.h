@@ -1,20 +1,22 @@
 // What the charts of the reports show, and how they are drawn.
 #pragma once
 
-#include <span>
-
 #include "controls/chart_content.h"
 #include "cycles/cycle.h"
-#include "shell/chart_days.h"
 
 inline constexpr int kReportSeries = 4;  // emotional, physical, intellectual, average
 
-// The day in bars, a series for each value, and the month in lines.
-ChartTable dailyChart(const modCycles::CycleValues& values, double average);
-ChartTable monthlyChart(std::span<const modCycles::ChartDay> days);
+inline constexpr int kReportCycles = 3;  // those before the average
 
-// The fill of a series' bar, in a colour that is one, counted from 1.
+// What a series is called. Series count from 1 here.
+QString reportSeriesName(int series);
+
+// The day in bars, a series for each value.
+ChartTable dailyChart(const modCycles::CycleValues& values, double average);
+
+// How they are filled and edged, in colour or in black and white (report_colour.h).
 ChartBrush dailyBrush(int series, Integer colour);
+inline const QColor kDailyEdge = Qt::black;
 
 struct ChartPen {
     QColor colour;
@@ -23,5 +25,7 @@ struct ChartPen {
     friend bool operator==(const ChartPen&, const ChartPen&) = default;
 };
 
-// The line of a cycle, in a colour that is one, counted from 1. That of the average has no colour.
+// How the line of a cycle is drawn, in colour or in black and white. That of the average has the
+// same pen in both.
 ChartPen monthlyPen(int series, Integer colour);
+inline const ChartPen kAveragePen{Qt::black, PenPattern::Solid};

@@ -26,7 +26,6 @@ QString categoryOf(const Recordset& person, Recordset& categories) {
 ReportPerson reportPerson(const Recordset& person, Recordset& categories) {
     const Date birthdate = person.Fields(u"Birthdate").toDate();
     return {.fullName = fullName(person),
-            .birthdate = birthdate,
             .birthText = Format(birthdate, QStringLiteral("dddd, d MMMM yyyy")),
             .starSign = QString::fromLatin1(modCycles::GetStarSign(birthdate)),
             .gender = genderWord(person.Fields(u"Gender")),

@@ -3,13 +3,10 @@
 
 #include <QString>
 
-#include "cycles/date.h"
-
 class Recordset;
 
 struct ReportPerson {
     QString fullName;
-    Date birthdate;
     QString birthText;
     QString starSign;
     QString gender;

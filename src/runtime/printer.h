@@ -5,19 +5,17 @@
 
 class QPainter;
 
-// Prints one job at a time. Whatever goes wrong raises 482 (Printer error). A job that is not ended
-// is dropped with the printer.
+// Prints one job at a time. What goes wrong, as far as the system tells, raises 482 (Printer
+// error).
 //
-// Width and height are those of the paper, and those of the scale are of what can be printed of it,
-// all in twips. The offsets are what cannot be printed at the left and at the top, in dots.
+// Width and height are those of the paper, in twips. The offsets are what cannot be printed at the
+// left and at the top, in dots.
 class Printer {
   public:
     virtual ~Printer() = default;
 
     virtual Long Width() const = 0;
     virtual Long Height() const = 0;
-    virtual Long ScaleWidth() const = 0;
-    virtual Long ScaleHeight() const = 0;
     virtual Long physicalOffsetX() const = 0;
     virtual Long physicalOffsetY() const = 0;
 

@@ -11,7 +11,7 @@ namespace {
 constexpr int kSize = 60;
 
 // A bar of sixty pixels square with a hatch, at a scale in pixels to the twip.
-QImage hatched(int hatch, double scale = 1.0 / 15) {
+QImage hatched(Hatch hatch, double scale = 1.0 / 15) {
     QImage picture(kSize + 20, kSize + 20, QImage::Format_RGB32);
     picture.fill(Qt::white);
     QPainter painter(&picture);
@@ -48,40 +48,34 @@ const QPoint kDown(0, 1);
 TEST(ChartHatch, LiesLevelOrStandsOrCrosses) {
     const QPoint left(12, 32);
     const QPoint top(32, 12);
-    EXPECT_GT(crossed(hatched(10), top, kDown), 8);
-    EXPECT_LE(crossed(hatched(10), left, kAcross), 1);
-    EXPECT_GT(crossed(hatched(11), left, kAcross), 8);
-    EXPECT_LE(crossed(hatched(11), top, kDown), 1);
-    EXPECT_GT(crossed(hatched(14), left + QPoint(0, 1), kAcross), 8);
-    EXPECT_GT(crossed(hatched(14), top + QPoint(1, 0), kDown), 8);
+    EXPECT_GT(crossed(hatched(Hatch::Level), top, kDown), 8);
+    EXPECT_LE(crossed(hatched(Hatch::Level), left, kAcross), 1);
+    EXPECT_GT(crossed(hatched(Hatch::Standing), left, kAcross), 8);
+    EXPECT_LE(crossed(hatched(Hatch::Standing), top, kDown), 1);
+    EXPECT_GT(crossed(hatched(Hatch::Crossed), left + QPoint(0, 1), kAcross), 8);
+    EXPECT_GT(crossed(hatched(Hatch::Crossed), top + QPoint(1, 0), kDown), 8);
 }
 
-TEST(ChartHatch, FallsToTheRightOrRisesToIt) {
+TEST(ChartHatch, FallsToTheRight) {
     const QPoint falling(1, 1);
     const QPoint rising(1, -1);
-    EXPECT_LE(crossed(hatched(12), {12, 12}, falling), 2);
-    EXPECT_GT(crossed(hatched(12), {12, 67}, rising), 6);
-    EXPECT_LE(crossed(hatched(13), {12, 67}, rising), 2);
-    EXPECT_GT(crossed(hatched(13), {12, 12}, falling), 6);
+    EXPECT_LE(crossed(hatched(Hatch::Falling), {12, 12}, falling), 2);
+    EXPECT_GT(crossed(hatched(Hatch::Falling), {12, 67}, rising), 6);
 }
 
 TEST(ChartHatch, StaysWithinTheBar) {
-    for (const int hatch : {10, 11, 12, 13, 14}) {
+    for (const Hatch hatch : {Hatch::Level, Hatch::Standing, Hatch::Falling, Hatch::Crossed}) {
         const QImage picture = hatched(hatch);
         for (int at = 0; at < picture.width(); ++at) {
-            EXPECT_FALSE(isInked(picture, at, 8)) << hatch;
-            EXPECT_FALSE(isInked(picture, 8, at)) << hatch;
-            EXPECT_FALSE(isInked(picture, at, 71)) << hatch;
-            EXPECT_FALSE(isInked(picture, 71, at)) << hatch;
+            EXPECT_FALSE(isInked(picture, at, 8)) << static_cast<int>(hatch);
+            EXPECT_FALSE(isInked(picture, 8, at)) << static_cast<int>(hatch);
+            EXPECT_FALSE(isInked(picture, at, 71)) << static_cast<int>(hatch);
+            EXPECT_FALSE(isInked(picture, 71, at)) << static_cast<int>(hatch);
         }
     }
 }
 
 TEST(ChartHatch, IsAsWideApartAtEveryScale) {
-    const int lines = crossed(hatched(11), {12, 32}, kAcross);
-    EXPECT_NEAR(crossed(hatched(11, 2.0 / 15), {12, 32}, kAcross), lines / 2, 1);
-}
-
-TEST(ChartHatch, IsNoneForAnotherNumber) {
-    EXPECT_EQ(crossed(hatched(1), {0, 32}, kAcross), 0);
+    const int lines = crossed(hatched(Hatch::Standing), {12, 32}, kAcross);
+    EXPECT_NEAR(crossed(hatched(Hatch::Standing, 2.0 / 15), {12, 32}, kAcross), lines / 2, 1);
 }

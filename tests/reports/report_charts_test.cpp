@@ -3,19 +3,15 @@
 
 #include <gtest/gtest.h>
 
-#include "cycles/calendar.h"
-#include "reports/report_pieces.h"
+#include "reports/report_colour.h"
 #include "support/printing.h"
-#include "support/recording_host.h"
-
-using namespace modCycles;
 
 namespace {
 
 const QColor kWhite(255, 255, 255);
 const QColor kGrey(125, 125, 125);
 
-ChartBrush hatched(int hatch) {
+ChartBrush hatched(Hatch hatch) {
     return {.fill = kWhite, .style = BrushStyle::Pattern, .hatch = hatch, .patternColour = kGrey};
 }
 
@@ -27,6 +23,13 @@ TEST(DailyChart, HasABarForEachValue) {
     EXPECT_EQ(table.columns, (std::vector<std::vector<double>>{{1}, {-2}, {3}, {4}}));
 }
 
+TEST(DailyChart, CallsItsBarsByTheirNames) {
+    EXPECT_EQ(reportSeriesName(1), u"Emotional");
+    EXPECT_EQ(reportSeriesName(2), u"Physical");
+    EXPECT_EQ(reportSeriesName(3), u"Intellectual");
+    EXPECT_EQ(reportSeriesName(4), u"Average");
+}
+
 TEST(DailyChart, FillsItsBarsInColours) {
     EXPECT_EQ(dailyBrush(1, kInColour), (ChartBrush{.fill = QColor(0, 0, 255)}));
     EXPECT_EQ(dailyBrush(2, kInColour), (ChartBrush{.fill = QColor(255, 0, 0)}));
@@ -35,29 +38,10 @@ TEST(DailyChart, FillsItsBarsInColours) {
 }
 
 TEST(DailyChart, HatchesItsBarsInBlackAndWhite) {
-    EXPECT_EQ(dailyBrush(1, kBlackAndWhite), hatched(11));
-    EXPECT_EQ(dailyBrush(2, kBlackAndWhite), hatched(12));
-    EXPECT_EQ(dailyBrush(3, kBlackAndWhite), hatched(14));
-    EXPECT_EQ(dailyBrush(4, kBlackAndWhite), hatched(10));
-}
-
-TEST(MonthlyChart, HasALineForEachCycleAndTheAverage) {
-    const RecordingHost host;
-    const Date birthdate = DateSerial(2000, 1, 20);
-    const Date start = DateSerial(2000, 1, 10);  // before the birth
-    const ChartTable table = monthlyChart(chartDays(birthdate, start));
-    ASSERT_EQ(table.columns.size(), 4U);
-    ASSERT_EQ(table.rowLabels.size(), 31);
-    EXPECT_EQ(table.rowLabels.first(), u"10/01/2000");
-    EXPECT_EQ(table.rowLabels.last(), u"09/02/2000");
-    for (int day = 0; day < 31; ++day) {
-        const auto row = static_cast<std::size_t>(day);
-        const CycleValues values = CalcCycles(10, static_cast<Integer>(day));
-        EXPECT_EQ(table.columns[0][row], values.emotional);
-        EXPECT_EQ(table.columns[1][row], values.physical);
-        EXPECT_EQ(table.columns[2][row], values.intellectual);
-        EXPECT_EQ(table.columns[3][row], values.average());
-    }
+    EXPECT_EQ(dailyBrush(1, kBlackAndWhite), hatched(Hatch::Standing));
+    EXPECT_EQ(dailyBrush(2, kBlackAndWhite), hatched(Hatch::Falling));
+    EXPECT_EQ(dailyBrush(3, kBlackAndWhite), hatched(Hatch::Crossed));
+    EXPECT_EQ(dailyBrush(4, kBlackAndWhite), hatched(Hatch::Level));
 }
 
 TEST(MonthlyChart, DrawsItsLinesInColoursOrStyles) {
@@ -68,4 +52,5 @@ TEST(MonthlyChart, DrawsItsLinesInColoursOrStyles) {
     EXPECT_EQ(monthlyPen(1, kBlackAndWhite), (ChartPen{black, PenPattern::Dashed}));
     EXPECT_EQ(monthlyPen(2, kBlackAndWhite), (ChartPen{black, PenPattern::Ditted}));
     EXPECT_EQ(monthlyPen(3, kBlackAndWhite), (ChartPen{black, PenPattern::Dotted}));
+    EXPECT_EQ(kAveragePen, (ChartPen{black, PenPattern::Solid}));
 }

@@ -5,7 +5,6 @@
 #include "reports/report_person.h"
 
 inline const ReportPerson kAnna{.fullName = QStringLiteral("Anna Smith"),
-                                .birthdate = modCycles::DateSerial(1972, 10, 2),
                                 .birthText = QStringLiteral("Monday, 2 October 1972"),
                                 .starSign = QStringLiteral("Libra"),
                                 .gender = QStringLiteral("Female"),

@@ -42,8 +42,6 @@ class SheetPrinter final : public Printer {
 
     Long Width() const override { return tray_.width; }
     Long Height() const override { return tray_.height; }
-    Long ScaleWidth() const override { return tray_.width - 2 * toTwips(tray_.offsetX); }
-    Long ScaleHeight() const override { return tray_.height - 2 * toTwips(tray_.offsetY); }
     Long physicalOffsetX() const override { return tray_.offsetX; }
     Long physicalOffsetY() const override { return tray_.offsetY; }
     double ScaleX(Long dots) const override { return toTwips(dots); }
@@ -60,7 +58,10 @@ class SheetPrinter final : public Printer {
     void NewPage() override {
         painter_.reset();
         const double scale = tray_.dotsPerInch / 1440.0;
-        sheets_.emplace_back((QSizeF(ScaleWidth(), ScaleHeight()) * scale).toSize(),
+        sheets_.emplace_back((QSizeF(tray_.width - 2 * toTwips(tray_.offsetX),
+                                     tray_.height - 2 * toTwips(tray_.offsetY)) *
+                              scale)
+                                 .toSize(),
                              QImage::Format_RGB32);
         sheets_.back().fill(Qt::white);
         painter_ = std::make_unique<QPainter>(&sheets_.back());

@@ -98,8 +98,8 @@ void Chart::setSeriesPattern(int series, PenPattern pattern) {
     update();
 }
 
-void Chart::setNegativeBars(bool are) {
-    content_.hasNegativeBars = are;
+void Chart::setNegativeBars(bool show) {
+    content_.hasNegativeBars = show;
     update();
 }
 
@@ -145,11 +145,11 @@ QPixmap Chart::picture(double enlargement) const {
 
 QImage Chart::paperPicture() const {
     constexpr double kDotsPerInch = 300;
-    constexpr double kInchesPerMetre = 1 / 0.0254;
     constexpr double kDotsPerTwip = kDotsPerInch / kTwipsPerInch;
+    constexpr int kDotsPerMetre = qRound(kDotsPerTwip * kTwipsPerMetre);
     QImage picture((content_.size * kDotsPerTwip).toSize(), QImage::Format_RGB32);
-    picture.setDotsPerMeterX(qRound(kDotsPerInch * kInchesPerMetre));
-    picture.setDotsPerMeterY(qRound(kDotsPerInch * kInchesPerMetre));
+    picture.setDotsPerMeterX(kDotsPerMetre);
+    picture.setDotsPerMeterY(kDotsPerMetre);
     QPainter painter(&picture);
     paintChart(painter, content_, chartColours(paperPalette()), kDotsPerTwip);
     return picture;

@@ -44,7 +44,7 @@ class Chart final : public QWidget {
     void setLegendFont(const QString& family, int points);
 
     // Makes room for bars of negative values.
-    void setNegativeBars(bool are);
+    void setNegativeBars(bool show);
 
     // These raise 381 for a series beyond the seventh. The colours of a pen, a brush and an edge
     // are drawn as they are, whatever the palette.

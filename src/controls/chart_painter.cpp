@@ -11,10 +11,9 @@
 #include "controls/chart_hatch.h"
 #include "controls/chart_layout.h"
 #include "controls/colour_mix.h"
+#include "controls/twips.h"
 
 namespace {
-
-constexpr int kTwipsPerPoint = 20;
 
 // In twips.
 constexpr double kHairline = 15;

@@ -13,7 +13,7 @@ QPalette paperPalette() {
 }
 
 QPaintDevice& paperMeasure() {
-    constexpr int kDotsPerMetre = 3780;  // 96 to the inch
+    constexpr int kDotsPerMetre = qRound(kTwipsPerMetre / kTwipsPerPixel);
     static QImage dot = [] {
         QImage image(1, 1, QImage::Format_RGB32);
         image.setDotsPerMeterX(kDotsPerMetre);
@@ -24,5 +24,5 @@ QPaintDevice& paperMeasure() {
 }
 
 int paperPixels(double lineWidth) {
-    return static_cast<int>(lineWidth / kTwipsPerPixel);
+    return static_cast<int>(exactPixels(lineWidth));
 }

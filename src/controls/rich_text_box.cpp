@@ -39,7 +39,6 @@ QString textOf(const QTextDocument& document, QLatin1String picture) {
 
 // The picture's size in twips, by its own dots to the metre.
 QSizeF paperSize(const QImage& picture) {
-    constexpr double kTwipsPerMetre = 1440 / 0.0254;
     return {picture.width() * kTwipsPerMetre / picture.dotsPerMeterX(),
             picture.height() * kTwipsPerMetre / picture.dotsPerMeterY()};
 }

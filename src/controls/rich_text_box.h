@@ -4,9 +4,8 @@
 #include <QTextEdit>
 
 #include "controls/rich_text_pages.h"
+#include "controls/text_file_type.h"
 #include "cycles/integers.h"
-
-enum class TextFileType { Rich = 0, Plain = 1 };
 
 // Positions in the text count from 0, and a line end counts as one character. The selection is set
 // by SelStart and SelLength; the styles are those of the selected text. Read, a style is that of

@@ -16,12 +16,8 @@ namespace {
 constexpr int kColourAsSet = QTextFormat::UserProperty;
 constexpr qint64 kMostPixels = 64'000'000;  // of all pictures in a document
 
-double pixels(double twips) {
-    return twips / kTwipsPerPixel;
-}
-
 Long twips(double pixels) {
-    return static_cast<Long>(std::lround(pixels * kTwipsPerPixel));
+    return static_cast<Long>(std::lround(toTwips(pixels)));
 }
 
 constexpr Qt::Alignment kAlignments[] = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight,
@@ -30,14 +26,14 @@ constexpr Qt::Alignment kAlignments[] = {Qt::AlignLeft, Qt::AlignHCenter, Qt::Al
 QTextBlockFormat blockFormat(const RichParagraphFormat& paragraph) {
     QTextBlockFormat format;
     format.setAlignment(kAlignments[static_cast<int>(paragraph.alignment)]);
-    format.setLeftMargin(pixels(paragraph.leftIndent));
-    format.setRightMargin(pixels(paragraph.rightIndent));
-    format.setTextIndent(pixels(paragraph.firstIndent));
-    format.setTopMargin(pixels(paragraph.spaceBefore));
-    format.setBottomMargin(pixels(paragraph.spaceAfter));
+    format.setLeftMargin(exactPixels(paragraph.leftIndent));
+    format.setRightMargin(exactPixels(paragraph.rightIndent));
+    format.setTextIndent(exactPixels(paragraph.firstIndent));
+    format.setTopMargin(exactPixels(paragraph.spaceBefore));
+    format.setBottomMargin(exactPixels(paragraph.spaceAfter));
     QList<QTextOption::Tab> tabs;
     for (const Long tab : paragraph.tabs)
-        tabs.append(QTextOption::Tab(pixels(tab), QTextOption::LeftTab));
+        tabs.append(QTextOption::Tab(exactPixels(tab), QTextOption::LeftTab));
     format.setTabPositions(tabs);
     return format;
 }
@@ -210,8 +206,8 @@ RichText richTextOf(const QTextDocument& document) {
 QTextImageFormat pictureIn(QTextDocument& document, const QImage& picture, QSizeF size) {
     QTextImageFormat format;
     format.setName(QStringLiteral("picture:%1").arg(picture.cacheKey()));
-    format.setWidth(pixels(size.width()));
-    format.setHeight(pixels(size.height()));
+    format.setWidth(exactPixels(size.width()));
+    format.setHeight(exactPixels(size.height()));
     document.addResource(QTextDocument::ImageResource, QUrl(format.name()), picture);
     return format;
 }

@@ -49,13 +49,13 @@ Long RichTextPages::paint(QPainter& painter, const QRectF& place, Long from) con
                          [](const Line& line, Long position) { return line.start < position; });
     if (first == lines_.end())
         return end_;
-    const double bottom = first->top + place.height() / kTwipsPerPixel;
+    const double bottom = first->top + exactPixels(place.height());
     const auto behind = std::find_if(first + 1, lines_.end(),
                                      [bottom](const Line& line) { return line.bottom > bottom; });
     const QRectF painted(0, first->top, document_->textWidth(), (behind - 1)->bottom - first->top);
     painter.save();
     painter.scale(kTwipsPerPixel * 1.0, kTwipsPerPixel * 1.0);
-    painter.translate(place.left() / kTwipsPerPixel, place.top() / kTwipsPerPixel - first->top);
+    painter.translate(exactPixels(place.left()), exactPixels(place.top()) - first->top);
     painter.setClipRect(painted);
     QAbstractTextDocumentLayout::PaintContext context;
     context.palette = paperPalette();

@@ -1,4 +1,5 @@
-// The levels of a day, by which its interpretation is looked up.
+// The levels of a day: which days a report calls critical, and which interpretation is shown for
+// one.
 //
 // They are read on the unrounded percentages of the three cycles: 0 within the critical band, whose
 // lower end belongs to it and whose upper end does not, else the sign. The bands are those of

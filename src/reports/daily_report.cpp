@@ -3,6 +3,7 @@
 
 #include <QStringBuilder>
 
+#include "cycles/day_level.h"
 #include "reports/report_pieces.h"
 #include "runtime/format.h"
 #include "runtime/numbers.h"
@@ -31,9 +32,9 @@ constexpr StateLines kIntellectualLines{QLatin1String(R"(\tab\b Intellectual cri
                                         QLatin1String(R"(\tab\b Intellectual low \b0)"),
                                         QLatin1String(R"(\tab Intellectual: None)")};
 
-QString lineOf(const StateLines& lines, bool isCritical, double percent) {
+QString lineOf(const StateLines& lines, Integer level, double percent) {
     constexpr double kPeak = 99;
-    if (isCritical)
+    if (level == 0)
         return lines.critical;
     if (percent > kPeak)
         return lines.peak;
@@ -52,7 +53,9 @@ QString valueLine(QLatin1String colour, const char* name, double percent) {
 }
 
 QString valueLines(const ReportDay& day, Integer colour) {
-    const auto in = [colour](const char* word) { return inColour(colour, QLatin1String(word)); };
+    const auto in = [colour](const char* word) {
+        return onlyInColour(colour, QLatin1String(word));
+    };
     return valueLine(in(R"(\cf1)"), R"(\i0\b Emotional: \b0\tab )", day.values.emotional) %
            valueLine(in(R"(\cf2)"), R"(\b Physical: \b0\tab )", day.values.physical) %
            valueLine(in(R"(\cf3)"), R"(\b Intellectual: \b0\tab )", day.values.intellectual) %
@@ -72,25 +75,25 @@ QString quotation(const QString& interpretation) {
 }  // namespace
 
 QString emotionalLine(double percent) {
-    return lineOf(kEmotionalLines, -10 <= percent && percent < 10, percent);
+    return lineOf(kEmotionalLines, modCycles::emotionalLevel(percent), percent);
 }
 
 QString physicalLine(double percent) {
-    return lineOf(kPhysicalLines, -10 <= percent && percent < 14, percent);
+    return lineOf(kPhysicalLines, modCycles::physicalLevel(percent), percent);
 }
 
 QString intellectualLine(double percent) {
-    return lineOf(kIntellectualLines, -1 <= percent && percent < 10, percent);
+    return lineOf(kIntellectualLines, modCycles::intellectualLevel(percent), percent);
 }
 
 QString dailyReport(const ReportPerson& person, const ReportDay& day, Integer colour) {
     if (!isReportColour(colour))
         return {};
-    return kDocumentHead % inColour(colour, kColourTable) % introduction(person) %
+    return kDocumentHead % onlyInColour(colour, kColourTable) % introduction(person) %
            QStringLiteral(R"(\pard\qc\i\b Biorhythm details for )") %
            Format(day.date, QStringLiteral("d MMMM yyyy")) % ParBreak %
            QStringLiteral(R"(\pard\par\b0)") % valueLines(day, colour) % ParBreak %
-           inColour(colour, QLatin1String(R"(\cf0)")) %
+           onlyInColour(colour, QLatin1String(R"(\cf0)")) %
            QStringLiteral(R"(\i Special characteristics: \i0)") % ParBreak %
            stateLines(day.values) % quotation(day.interpretation) % kDocumentEnd;
 }

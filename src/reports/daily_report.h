@@ -7,8 +7,8 @@
 #include "cycles/date.h"
 #include "reports/report_person.h"
 
-// What a report says of a cycle's day by its unrounded value in per cent, in rich text. The
-// critical bands are those of the reports alone: the lower end counts and the upper one does not.
+// What a report says of a cycle's day by its unrounded value in per cent, in rich text. A day is
+// critical where its level is 0 (day_level.h).
 QString emotionalLine(double percent);
 QString physicalLine(double percent);
 QString intellectualLine(double percent);
@@ -21,5 +21,5 @@ struct ReportDay {
     QString interpretation;
 };
 
-// The document, in rich text; nothing for a colour that is none.
+// The document, in rich text; empty for a colour that is neither 0 (black and white) nor 1.
 QString dailyReport(const ReportPerson& person, const ReportDay& day, Integer colour);

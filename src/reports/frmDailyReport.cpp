@@ -10,20 +10,21 @@
 #include "controls/twips.h"
 #include "reports/report_builders.h"
 #include "reports/report_charts.h"
-#include "reports/report_pieces.h"
+#include "reports/report_colour.h"
+#include "reports/report_export.h"
 #include "reports/report_printing.h"
 #include "reports/report_window_layout.h"
 #include "runtime/app.h"
 #include "runtime/errors.h"
 #include "runtime/event.h"
 #include "runtime/host.h"
+#include "shell/chart_table.h"
 #include "shell/frmWait.h"
 #include "shell/handover.h"
 #include "shell/main_controls.h"
 #include "store/databases.h"
 #include "store/recordset.h"
 #include "store/scratch_file.h"
-#include "store/small_file.h"
 #include "store/statements.h"
 #include "ui_frmDailyReport.h"
 
@@ -39,31 +40,14 @@ constexpr QRectF kDailyPlot(750, 200, 4465, 3265);
 constexpr QSizeF kMonthlyChart(6855, 4095);
 constexpr QRectF kMonthlyPlot(750, 200, 5905, 3165);
 
-// The filters of the dialog.
-constexpr int kRichTextFilter = 1;
-constexpr int kPlainTextFilter = 2;
-constexpr int kAllFilesFilter = 3;
-
-// The value of a box: 0 clear, 1 checked, 2 grey.
-Integer valueOf(const QCheckBox& box) {
-    switch (box.checkState()) {
-        case Qt::Unchecked:
-            return kBlackAndWhite;
-        case Qt::Checked:
-            return kInColour;
-        case Qt::PartiallyChecked:
-            break;
-    }
-    constexpr Integer kGrey = 2;
-    return kGrey;
-}
-
 void EditCopy(const Chart& chart) {
     host().setClipboardBitmap(bitmapOf(chart.paperPicture()));
 }
 
 QRect pixels(const QRectF& twips) {
-    return QRectF(twips.topLeft() / kTwipsPerPixel, twips.size() / kTwipsPerPixel).toRect();
+    return QRectF(exactPixels(twips.left()), exactPixels(twips.top()), exactPixels(twips.width()),
+                  exactPixels(twips.height()))
+        .toRect();
 }
 
 }  // namespace
@@ -84,8 +68,7 @@ void frmDailyReport::setUpDialog() {
     dlgDaily_->setObjectName(QStringLiteral("dlgDaily"));
     dlgDaily_->setDialogTitle(QStringLiteral("Save Report ..."));
     dlgDaily_->setDefaultExt(QStringLiteral("rtf"));
-    dlgDaily_->setFilter(
-        QStringLiteral("Rich Text (*.rtf)|*.rtf|Plain Text (*.txt)|*.txt|All files (*.*)|*.*"));
+    dlgDaily_->setFilter(kReportFilter);
 }
 
 // The names of the lines of a month stand in its report, those of the bars of a day do not.
@@ -95,11 +78,12 @@ void frmDailyReport::setUpCharts() {
     day.setChartType(ChartType::Bars);
     day.setNegativeBars(true);
     day.setShowLegend(true);
-    for (int series = 1; const char* name : {"Emotional", "Physical", "Intellectual", "Average"})
-        day.setLegendText(series++, QLatin1String(name));
+    for (int series = 1; series <= kReportSeries; ++series)
+        day.setLegendText(series, reportSeriesName(series));
     Chart& month = *ui_->chtMonthly;
     month.setFixedTwips(kMonthlyChart, kMonthlyPlot);
-    month.setPenColour(kReportSeries, Qt::black);
+    month.setPenColour(kReportSeries, kAveragePen.colour);
+    month.setSeriesPattern(kReportSeries, kAveragePen.pattern);
 }
 
 void frmDailyReport::connectEvents() {
@@ -135,7 +119,7 @@ void frmDailyReport::Form_KeyDown(QKeyEvent& key) {
 
 void frmDailyReport::Form_Resize() {
     const ReportWindowPlaces places = reportWindowPlaces(
-        ::toTwips(width()), {toTwips(ui_->client->width()), toTwips(ui_->client->height())});
+        toTwips(width()), {toTwips(ui_->client->width()), toTwips(ui_->client->height())});
     ui_->rtbDaily->setGeometry(pixels(places.rtbDaily));
     ui_->cmdPrint->setGeometry(pixels(places.cmdPrint));
     ui_->cmdClose->setGeometry(pixels(places.cmdClose));
@@ -189,13 +173,9 @@ void frmDailyReport::cmdPrint_Click() {
 void frmDailyReport::cmdSave_Click() {
     dlgDaily_->ShowSave();
     dlgDaily_->setFlags(FileDialog::kOverwritePrompt);
-    const int filter = dlgDaily_->FilterIndex();
-    if (filter == kRichTextFilter || filter == kAllFilesFilter) {
-        dlgDaily_->setDefaultExt(QStringLiteral("rtf"));
-        ui_->rtbDaily->SaveFile(dlgDaily_->FileName(), TextFileType::Rich);
-    } else if (filter == kPlainTextFilter) {
-        dlgDaily_->setDefaultExt(QStringLiteral("txt"));
-        ui_->rtbDaily->SaveFile(dlgDaily_->FileName(), TextFileType::Plain);
+    if (const std::optional<ReportFile> file = reportFile(dlgDaily_->FilterIndex())) {
+        dlgDaily_->setDefaultExt(file->extension);
+        ui_->rtbDaily->SaveFile(dlgDaily_->FileName(), file->type);
     }
 }
 
@@ -217,7 +197,7 @@ Date frmDailyReport::readBirthdate() const {
 void frmDailyReport::ShowDailyReport() {
     const Long days = modCycles::DayCount(readBirthdate(), mainControls().dtpSelDate->Value());
     const modCycles::CycleValues values = modCycles::CalcCycles(days, 0);
-    const Integer colour = valueOf(*ui_->chkColour_0);
+    const Integer colour = boxValue(ui_->chkColour_0->checkState());
     modCycles::BuildDailyReport(ReportPersonID_, values.emotional, values.physical,
                                 values.intellectual, values.average(), colour, *ui_->rtbDaily);
     PlaceDailyChart(values, colour);
@@ -225,7 +205,7 @@ void frmDailyReport::ShowDailyReport() {
 
 void frmDailyReport::ShowMonthlyReport() {
     const auto days = modCycles::chartDays(readBirthdate(), mainControls().dtpSelDate->Value());
-    const Integer colour = valueOf(*ui_->chkColour_1);
+    const Integer colour = boxValue(ui_->chkColour_1->checkState());
     modCycles::BuildMonthlyReport(ReportPersonID_, colour, *ui_->rtbDaily);
     PlaceMonthlyChart(days, colour);
 }
@@ -236,7 +216,7 @@ void frmDailyReport::PlaceDailyChart(const modCycles::CycleValues& values, Integ
         chart.setChartData(dailyChart(values, values.average()));
         for (int series = 1; series <= kReportSeries; ++series) {
             chart.setBarBrush(series, dailyBrush(series, colour));
-            chart.setEdgeColour(series, Qt::black);
+            chart.setEdgeColour(series, kDailyEdge);
         }
         EditCopy(chart);
     }
@@ -246,8 +226,8 @@ void frmDailyReport::PlaceDailyChart(const modCycles::CycleValues& values, Integ
 void frmDailyReport::PlaceMonthlyChart(std::span<const modCycles::ChartDay> days, Integer colour) {
     if (isReportColour(colour)) {
         Chart& chart = *ui_->chtMonthly;
-        chart.setChartData(monthlyChart(days));
-        for (int series = 1; series < kReportSeries; ++series) {
+        chart.setChartData(modCycles::chartTable(days));
+        for (int series = 1; series <= kReportCycles; ++series) {
             const ChartPen pen = monthlyPen(series, colour);
             chart.setPenColour(series, pen.colour);
             chart.setSeriesPattern(series, pen.pattern);
@@ -260,8 +240,7 @@ void frmDailyReport::PlaceMonthlyChart(std::span<const modCycles::ChartDay> days
 // By way of the clipboard and a file the picture of a chart comes to the end of the text, where the
 // caret is. Whatever else was on the clipboard is gone.
 void frmDailyReport::placePicture() {
-    const QString file = QStringLiteral("tempchart.bmp");
-    const QString path = App::Path() + u'/' + file;
+    const QString path = App::Path() + QStringLiteral("/tempchart.bmp");
     const std::optional<QByteArray> bitmap = host().clipboardBitmap();
     if (!bitmap)
         throw RuntimeError(ErrorNumber::InvalidPropertyValue);
@@ -271,5 +250,5 @@ void frmDailyReport::placePicture() {
     ui_->rtbDaily->setSelStart(0);
     ui_->Picture1->clear();
     host().clearClipboard();
-    deleteSmallFile(App::Path(), file);
+    deleteScratchFile(path);
 }

@@ -14,8 +14,9 @@ class frmDailyReport;
 class FileDialog;
 
 // The reports are on the person that is selected when the window is loaded, and on the date that is
-// selected when one is built. Nothing is built before the user asks for it. Every build empties the
-// clipboard. No error is trapped here.
+// selected when one is built; the overview is on neither. Nothing is built before the user asks for
+// it. A report with a chart empties the clipboard. mnuDailySave and mnuDailyPrint are there and do
+// nothing, as they always have. No error is trapped here.
 class frmDailyReport final : public Form {
     Q_OBJECT
 

@@ -6,13 +6,13 @@
 #include "cycles/calendar.h"
 #include "reports/report_pieces.h"
 #include "runtime/host.h"
+#include "shell/chart_days.h"
 
 namespace {
 
 QString spanText(Date start) {
-    constexpr Long kDaysToEnd = 31;
     const Date end = modCycles::DateSerial(modCycles::Year(start), modCycles::Month(start),
-                                           modCycles::Day(start) + kDaysToEnd);
+                                           modCycles::Day(start) + modCycles::kChartDays);
     return QStringLiteral(R"(\b\i\fs20 From )") % host().shortDate(start) % QStringLiteral(" to ") %
            host().shortDate(end) % QStringLiteral(R"(\b0\i0)");
 }
@@ -31,7 +31,7 @@ QLatin1String legend(Integer colour) {
 QString monthlyReport(const ReportPerson& person, Date start, Integer colour) {
     if (!isReportColour(colour))
         return {};
-    return kDocumentHead % inColour(colour, kColourTable) %
+    return kDocumentHead % onlyInColour(colour, kColourTable) %
            QStringLiteral(R"(\viewkind4\uc1\pard\qc\b\f0\fs28 Monthly Chart for )") %
            person.fullName % ParBreak % ParBreak % spanText(start) % ParBreak % ParBreak %
            QStringLiteral(R"(\pard\b Date of birth: \b0\tab )") % personLines(person) % ParBreak %

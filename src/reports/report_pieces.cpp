@@ -3,7 +3,7 @@
 
 #include <QStringBuilder>
 
-QLatin1String inColour(Integer colour, QLatin1String piece) {
+QLatin1String onlyInColour(Integer colour, QLatin1String piece) {
     return colour == kInColour ? piece : QLatin1String();
 }
 

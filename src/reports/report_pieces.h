@@ -7,7 +7,7 @@
 #include <QLatin1String>
 #include <QString>
 
-#include "cycles/integers.h"
+#include "reports/report_colour.h"
 #include "reports/report_person.h"
 
 inline constexpr QLatin1String ParBreak(R"({\par})");
@@ -25,17 +25,8 @@ inline constexpr QLatin1String kColourTable(
 // Ends every document. What is added behind it stands in the last paragraph, in the middle.
 inline constexpr QLatin1String kDocumentEnd(R"(\qc})");
 
-// How a report is coloured: the value of the check box that asks for it. For any other value there
-// is no document.
-inline constexpr Integer kBlackAndWhite = 0;
-inline constexpr Integer kInColour = 1;
-
-constexpr bool isReportColour(Integer colour) {
-    return colour == kBlackAndWhite || colour == kInColour;
-}
-
 // A piece of a coloured document, and nothing in one that is black and white.
-QLatin1String inColour(Integer colour, QLatin1String piece);
+QLatin1String onlyInColour(Integer colour, QLatin1String piece);
 
 // What a report on one person says from the birth date to the notes, each behind its name on a line
 // of its own. The line of the birth date has begun, and that of the notes goes on.

@@ -23,11 +23,11 @@ PrintArea printArea(const Printer& printer, Long leftMargin, Long topMargin, Lon
 namespace modCycles {
 
 // Wraps the lines of the box as on the default printer's paper, with margins in twips, and returns
-// how wide they are, in twips. Raises 482 without a printer.
+// how wide they are, in twips. Raises 482 without a printer, 6 as printArea does.
 Long WysiwygRtf(RichTextBox& rtf, Long leftMargin, Long rightMargin);
 
 // Prints the whole text on the default printer, on as many pages as it takes, with margins in
-// twips. Raises 482 for a printer that is not there or fails.
+// twips. Raises 482 for a printer that is not there or fails, 6 as printArea does.
 void PrintRtf(const RichTextBox& rtf, Long leftMargin, Long topMargin, Long rightMargin,
               Long bottomMargin);
 

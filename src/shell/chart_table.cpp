@@ -27,4 +27,11 @@ void addAverageColumn(ChartTable& table, std::span<const ChartDay> days) {
         averages.push_back(day.values.average());
 }
 
+ChartTable chartTable(std::span<const ChartDay> days) {
+    ChartTable table{.rowLabels = dateLabels(days), .columns = {}};
+    addCycleColumns(table, days);
+    addAverageColumn(table, days);
+    return table;
+}
+
 }  // namespace modCycles

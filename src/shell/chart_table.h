@@ -17,4 +17,7 @@ void addCycleColumns(ChartTable& table, std::span<const ChartDay> days);
 // Adds a column for the average of the three.
 void addAverageColumn(ChartTable& table, std::span<const ChartDay> days);
 
+// A row for each day: the three cycles and their average.
+ChartTable chartTable(std::span<const ChartDay> days);
+
 }  // namespace modCycles

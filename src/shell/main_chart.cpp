@@ -18,16 +18,9 @@ namespace {
 // The columns of the chart, and its series, in their order.
 enum Series { kEmotional = 1, kPhysical, kIntellectual, kAverage };
 
-ChartTable tableOf(std::span<const ChartDay> days) {
-    ChartTable table{.rowLabels = dateLabels(days), .columns = {}};
-    addCycleColumns(table, days);
-    addAverageColumn(table, days);
-    return table;
-}
-
 void draw(std::span<const ChartDay> days) {
     Chart& chart = *mainControls().chtMain;
-    chart.setChartData(tableOf(days));
+    chart.setChartData(chartTable(days));
     SetupChartSeries(chart);
 }
 

@@ -33,3 +33,15 @@ TEST(ChartTable, HasAColumnForEachCycleBehindThoseThatAreThere) {
         EXPECT_EQ(table.columns[3][row], kDays[row].values.intellectual);
     }
 }
+
+TEST(ChartTable, HasTheCyclesAndTheirAverageOfEveryDay) {
+    const RecordingHost host;
+    const ChartTable table = chartTable(kDays);
+    EXPECT_EQ(table.rowLabels, dateLabels(kDays));
+    ASSERT_EQ(table.columns.size(), 4U);
+    for (std::size_t row = 0; row < kDays.size(); ++row) {
+        EXPECT_EQ(table.columns[0][row], kDays[row].values.emotional);
+        EXPECT_EQ(table.columns[2][row], kDays[row].values.intellectual);
+        EXPECT_EQ(table.columns[3][row], kDays[row].values.average());
+    }
+}

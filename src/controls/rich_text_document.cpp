@@ -175,6 +175,7 @@ Long colourAsSet(const QTextFormat& format) {
 
 void recolour(QTextDocument& document, const QPalette& palette) {
     QTextCursor cursor(&document);
+    cursor.beginEditBlock();
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         for (const QTextLayout::FormatRange& run : block.textFormats()) {
             if (!run.format.hasProperty(kColourAsSet))
@@ -184,6 +185,7 @@ void recolour(QTextDocument& document, const QPalette& palette) {
             cursor.mergeCharFormat(inColour(colourAsSet(run.format), palette));
         }
     }
+    cursor.endEditBlock();
 }
 
 void showRichText(QTextDocument& document, const RichText& text, const QPalette& palette) {

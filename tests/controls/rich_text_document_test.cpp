@@ -120,3 +120,13 @@ TEST_F(RichTextDocument, PaintsItsColoursForAPaletteAndThenForAnother) {
     EXPECT_EQ(document_.begin().textFormats()[1].format.foreground().style(), Qt::NoBrush);
     EXPECT_EQ(richTextOf(document_).front().runs.front().format.colour, kBlue);
 }
+
+// The lines are laid out with every change.
+TEST_F(RichTextDocument, PaintsAllItsColoursForAnotherPaletteInOneChange) {
+    const RichRun blue{QStringLiteral("a"), {.colour = kBlue}};
+    shownAgain({{.runs = {blue, {QStringLiteral("b"), {}}, blue}}, {.runs = {blue}}});
+    int changes = 0;
+    QObject::connect(&document_, &QTextDocument::contentsChanged, [&changes] { ++changes; });
+    recolour(document_, QPalette(Qt::black));
+    EXPECT_EQ(changes, 1);
+}

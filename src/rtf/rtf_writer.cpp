@@ -9,7 +9,26 @@
 
 namespace {
 
-// The tables of a document: each font and each colour once, by its number.
+// Things once each, in the order in which they come, and the number of each.
+template <class Thing>
+class Numbered {
+  public:
+    void add(const Thing& thing) {
+        if (numbers_.contains(thing))
+            return;
+        numbers_.insert(thing, all_.size());
+        all_.append(thing);
+    }
+
+    qsizetype numberOf(const Thing& thing) const { return numbers_.value(thing); }
+    const QList<Thing>& all() const { return all_; }
+
+  private:
+    QList<Thing> all_;
+    QHash<Thing, qsizetype> numbers_;
+};
+
+// The tables of a document.
 class Tables {
   public:
     explicit Tables(const RichText& text) {
@@ -20,26 +39,25 @@ class Tables {
         }
     }
 
-    qsizetype numberOfFont(const QString& font) const { return fonts_.indexOf(font); }
+    qsizetype numberOfFont(const QString& font) const { return fonts_.numberOf(font); }
 
     // 0 is the colour of plain text.
     qsizetype numberOfColour(std::optional<Long> colour) const {
-        return colour ? colours_.indexOf(*colour) + 1 : 0;
+        return colour ? colours_.numberOf(*colour) + 1 : 0;
     }
 
-    const QStringList& fonts() const { return fonts_; }
-    const QList<Long>& colours() const { return colours_; }
+    const QStringList& fonts() const { return fonts_.all(); }
+    const QList<Long>& colours() const { return colours_.all(); }
 
   private:
     void add(const RichFormat& format) {
-        if (!fonts_.contains(format.font))
-            fonts_.append(format.font);
-        if (format.colour && !colours_.contains(*format.colour))
-            colours_.append(*format.colour);
+        fonts_.add(format.font);
+        if (format.colour)
+            colours_.add(*format.colour);
     }
 
-    QStringList fonts_;
-    QList<Long> colours_;
+    Numbered<QString> fonts_;
+    Numbered<Long> colours_;
 };
 
 // The word that says what a file is; none for one that cannot be written.

@@ -9,6 +9,9 @@ class RichTextBuilder {
     void add(QStringView text, const RichFormat& format);
     void add(RichPicture picture, const RichFormat& format);
 
+    // Whether the paragraph has nothing yet.
+    bool isAtBeginning() const { return paragraphs_.back().runs.empty(); }
+
     // Ends the paragraph, in the format that it has and that of its end, and begins another.
     void endParagraph(const RichParagraphFormat& format, const RichFormat& endFormat);
 

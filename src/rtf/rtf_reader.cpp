@@ -25,8 +25,9 @@ QChar characterOf(QStringView word) {
         {u"emdash", u'\u2014'},    {u"emspace", u'\u2003'},
         {u"endash", u'\u2013'},    {u"enspace", u'\u2002'},
         {u"ldblquote", u'\u201C'}, {u"line", QChar::LineSeparator},
-        {u"lquote", u'\u2018'},    {u"rdblquote", u'\u201D'},
-        {u"rquote", u'\u2019'},    {u"tab", u'\t'},
+        {u"lquote", u'\u2018'},    {u"nestcell", u'\t'},
+        {u"rdblquote", u'\u201D'}, {u"rquote", u'\u2019'},
+        {u"tab", u'\t'},
     };
     return characters.value(word);
 }
@@ -64,7 +65,12 @@ bool isOrdinary(QChar character) {
 }
 
 bool endsParagraph(QStringView word) {
-    return word == u"par" || word == u"sect" || word == u"row";
+    return word == u"par" || word == u"row";
+}
+
+// Words behind which the text goes on elsewhere. They end a paragraph only where one has begun.
+bool beginsElsewhere(QStringView word) {
+    return word == u"page" || word == u"column" || word == u"sect";
 }
 
 // Groups for others, besides those that begin with \*.
@@ -114,6 +120,7 @@ class RtfReader {
     std::vector<RtfState> groups_;  // for each that is open, what held before it
     std::size_t tooDeep_ = 0;       // groups that are open below the deepest
     bool isOver_ = false;
+    bool isFirst_ = false;     // in its group is what comes next
     bool isOptional_ = false;  // after \*: who does not know the word passes its group over
     Long standInsLeft_ = 0;    // to pass over
     RtfTables tables_;
@@ -156,6 +163,8 @@ void RtfReader::takeToken(const RtfToken& token) {
             isOver_ = true;
             break;
     }
+    isOptional_ = isFirst_ && token.kind == RtfToken::Kind::Symbol && token.text == u"*";
+    isFirst_ = token.kind == RtfToken::Kind::GroupStart;
 }
 
 void RtfReader::beginGroup() {
@@ -209,13 +218,14 @@ void RtfReader::takeWord(QStringView word, std::optional<Long> number) {
     }
 }
 
-// Whether the word says what its group is for.
+// Whether the word says what its group is for, as only the first one does.
 bool RtfReader::takeDestination(QStringView word) {
-    const bool isOptional = std::exchange(isOptional_, false);
-    const std::optional<RtfDestination> destination = destinationOf(word);
     if (state_.destination == RtfDestination::Nobody)
         return true;
-    if (!destination && (!isOptional || word == u"shppict"))
+    if (!isFirst_ && !isOptional_)
+        return false;
+    const std::optional<RtfDestination> destination = destinationOf(word);
+    if (!destination && (!isOptional_ || word == u"shppict"))
         return false;
     state_.destination = destination.value_or(RtfDestination::Nobody);
     if (state_.destination == RtfDestination::Picture)
@@ -229,7 +239,7 @@ void RtfReader::takeWordOfText(QStringView word, std::optional<Long> number) {
         return;
     if (const QChar character = characterOf(word); !character.isNull())
         addText(QStringView(&character, 1));
-    else if (endsParagraph(word))
+    else if (endsParagraph(word) || (beginsElsewhere(word) && !builder_.isAtBeginning()))
         endParagraph();
     else if (word == u"deff")
         tables_.setDefaultFont(number.value_or(0));
@@ -253,9 +263,7 @@ void RtfReader::takeUnicode(Long number) {
 }
 
 void RtfReader::takeSymbol(QChar symbol) {
-    if (symbol == u'*')
-        isOptional_ = true;
-    else if (symbol == u'\r' || symbol == u'\n')
+    if (symbol == u'\r' || symbol == u'\n')
         endParagraph();
     else if (const QChar character = symbolCharacter(symbol); !character.isNull())
         takeText(QStringView(&character, 1));
@@ -289,7 +297,7 @@ void RtfReader::takeBytes(QStringView bytes) {
 }
 
 void RtfReader::addText(QStringView text) {
-    if (text.isEmpty())
+    if (text.isEmpty() || state_.characters.isHidden)
         return;
     if (std::all_of(text.begin(), text.end(), isOrdinary)) {
         builder_.add(text, format());

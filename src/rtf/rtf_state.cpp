@@ -84,10 +84,18 @@ const QHash<QStringView, Change>& changes() {
         {u"sa", setLength<&RichParagraphFormat::spaceAfter>},
         {u"sb", setLength<&RichParagraphFormat::spaceBefore>},
         {u"strike", turn<&RtfCharacters::isStruckOut>},
+        {u"striked", turn<&RtfCharacters::isStruckOut>},
         {u"tx", addTab},
         {u"uc", setStandIns},
         {u"ul", turn<&RtfCharacters::isUnderlined>},
+        {u"uld", turn<&RtfCharacters::isUnderlined>},
+        {u"uldash", turn<&RtfCharacters::isUnderlined>},
+        {u"uldb", turn<&RtfCharacters::isUnderlined>},
         {u"ulnone", turnUnderlineOff},
+        {u"ulth", turn<&RtfCharacters::isUnderlined>},
+        {u"ulw", turn<&RtfCharacters::isUnderlined>},
+        {u"ulwave", turn<&RtfCharacters::isUnderlined>},
+        {u"v", turn<&RtfCharacters::isHidden>},
     };
     return all;
 }

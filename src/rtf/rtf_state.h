@@ -14,6 +14,7 @@ struct RtfCharacters {
     bool isItalic = false;
     bool isUnderlined = false;
     bool isStruckOut = false;
+    bool isHidden = false;
     Long colour = 0;
 
     friend bool operator==(const RtfCharacters&, const RtfCharacters&) = default;

@@ -3,6 +3,11 @@
 
 #include <algorithm>
 
+void RtfTables::beginFont(Long number) {
+    font_ = number;
+    fonts_.remove(number);
+}
+
 void RtfTables::addFontName(QStringView text) {
     if (!font_)
         return;

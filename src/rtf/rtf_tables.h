@@ -15,7 +15,7 @@ class RtfTables {
     void setDefaultFont(Long number) { defaultFont_ = number; }
 
     // The number of the font whose name comes next, and a piece of it: a semicolon ends the name.
-    void beginFont(Long number) { font_ = number; }
+    void beginFont(Long number);
     void addFontName(QStringView text);
 
     // A part of the colour that is read, 0 to 255, and the texts between the parts: a semicolon

@@ -57,6 +57,18 @@ TEST(RtfReader, TurnsFormatsOnAndOff) {
     EXPECT_EQ(shown("\\b\\i\\fs28 a\\plain b"), list({"<b i 14>ab"}));
 }
 
+TEST(RtfReader, DrawsOneLineUnderOrThroughATextWhateverKindOfLineItAsksFor) {
+    for (const char* kind : {"ul", "uld", "uldash", "uldb", "ulth", "ulw", "ulwave"})
+        EXPECT_EQ(shown(u'\\' + QLatin1String(kind) + QStringLiteral(" a\\ulnone b")),
+                  list({"<u>ab"}))
+            << kind;
+    EXPECT_EQ(shown("\\ulc2\\striked1 a\\striked0 b"), list({"<s>ab"}));
+}
+
+TEST(RtfReader, LeavesHiddenTextsOut) {
+    EXPECT_EQ(shown(" a{\\v hidden\\tab}b\\v c\\v0 d\\v e\\plain f"), list({"abdf"}));
+}
+
 TEST(RtfReader, PutsTheFormatBackAtTheEndOfAGroup) {
     EXPECT_EQ(shown(" a{\\b\\i b}c"), list({"a<b i>bc"}));
     EXPECT_EQ(shown("{\\qc x\\par}y"), list({"centre:x", "y"}));
@@ -80,6 +92,7 @@ TEST(RtfReader, ReadsAFontWithAnotherNameInAGroup) {
     EXPECT_EQ(shown("{\\fonttbl{\\f0\\fnil{\\*\\falt Sans}Arial;}}x"), list({"<Arial>x"}));
     EXPECT_EQ(shown("{\\fonttbl\\f0\\fswiss Arial;\\f1 Courier;}\\f1 x"), list({"<Courier>x"}));
     EXPECT_EQ(shown("{\\fonttbl{\\f0 M\\'fcller;}}x"), list({"<Müller>x"}));
+    EXPECT_EQ(shown("{\\fonttbl{\\f0 Arial;}}{\\fonttbl{\\f0 Courier;}}x"), list({"<Courier>x"}));
 }
 
 TEST(RtfReader, FindsColoursByTheirNumbers) {
@@ -142,8 +155,16 @@ TEST(RtfReader, KnowsTheWordsAndSymbolsForCharacters) {
 }
 
 TEST(RtfReader, MakesAParagraphOfARowOfATable) {
-    EXPECT_EQ(shown("\\trowd\\cellx100\\intbl a\\cell b\\cell\\row\\sect x"),
-              list({"a\tb\t", "", "x"}));
+    EXPECT_EQ(shown("\\trowd\\cellx100\\intbl a\\cell b\\cell\\row x"), list({"a\tb\t", "x"}));
+    EXPECT_EQ(
+        shown(
+            "\\intbl a\\nestcell b\\nestcell{\\*\\nesttableprops\\nestrow}{\\nonesttables\\par}x"),
+        list({"a\tb\t", "x"}));
+}
+
+TEST(RtfReader, MakesAParagraphOfWhatStandsBeforeAPageAColumnOrASection) {
+    EXPECT_EQ(shown(" a\\page b\\column c\\sect d"), list({"a", "b", "c", "d"}));
+    EXPECT_EQ(shown(" a\\par\\page b\\page\\par c"), list({"a", "b", "", "c"}));
 }
 
 TEST(RtfReader, LeavesOutWhatNoTextCanHold) {
@@ -161,6 +182,13 @@ TEST(RtfReader, PassesOverWhatItDoesNotKnow) {
     EXPECT_EQ(shown(" a{\\info{\\title T\\par}}{\\header H}{\\footnote F}b"), list({"ab"}));
     EXPECT_EQ(shown("{\\stylesheet{\\s0 Normal;}{\\s1\\b Head;}}b"), list({"b"}));
     EXPECT_EQ(shown(" a\\*b{\\*c}"), list({"abc"}));
+}
+
+// A person's notes may hold the path of a file.
+TEST(RtfReader, TakesOnlyTheFirstWordOfAGroupForWhatTheGroupIsFor) {
+    EXPECT_EQ(shown(" in C:\\info\\notes or C:\\*.*{\\par}b"), list({"in C:or C:.*", "b"}));
+    EXPECT_EQ(shown(" {\\*}\\b a{x\\*\\nonsense y}"), list({"<b>axy"}));
+    EXPECT_EQ(shown(" a{\r\n\\info b}{\\*\r\n\\nonsense c}"), list({"a"}));
 }
 
 TEST(RtfReader, ReadsTheResultOfAFieldAlone) {

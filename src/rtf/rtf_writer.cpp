@@ -202,8 +202,9 @@ void RtfWriter::writeCharacter(QChar character) {
             if (character >= u' ' && character <= kLastPlain) {
                 document_ += character.toLatin1();
             } else {
+                // Some readers pass over the whole word that a plain question mark begins.
                 word("\\u", static_cast<qint16>(character.unicode()));
-                document_ += '?';
+                word("\\'3f");
             }
     }
 }

@@ -1,6 +1,5 @@
-// Looks for a document that the reader cannot read. Built by clang alone, with ONDARA_FUZZ:
-//
-//   rtf_fuzz tests/rtf/corpus
+// Looks for a document that the reader cannot read. Built by clang alone, with ONDARA_FUZZ, as
+// CONTRIBUTING.md says.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>

@@ -71,7 +71,6 @@ void RichTextBox::setTextRTF(const QString& document) {
         setText(document);
         return;
     }
-    setTextCursor(QTextCursor(this->document()));
     showRichText(*this->document(), readRtf(document), palette());
     setTextCursor(QTextCursor(this->document()));
 }

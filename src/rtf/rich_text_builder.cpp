@@ -4,6 +4,8 @@
 #include <utility>
 
 void RichTextBuilder::add(QStringView text, const RichFormat& format) {
+    if (text.isEmpty())
+        return;
     std::vector<RichRun>& runs = paragraphs_.back().runs;
     if (!runs.empty() && runs.back().format == format) {
         if (auto* before = std::get_if<QString>(&runs.back().content)) {

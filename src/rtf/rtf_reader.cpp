@@ -113,6 +113,7 @@ class RtfReader {
     void takeBytes(QStringView bytes);
     void addText(QStringView text);
     void endParagraph();
+    RtfDestination destination() const;
     const RichFormat& format();
 
     RtfTokens tokens_;
@@ -273,7 +274,7 @@ void RtfReader::takeText(QStringView text) {
     const qsizetype skipped = std::min<qsizetype>(standInsLeft_, text.size());
     standInsLeft_ -= static_cast<Long>(skipped);
     const QStringView rest = text.mid(skipped);
-    switch (tooDeep_ > 0 ? RtfDestination::Nobody : state_.destination) {
+    switch (destination()) {
         case RtfDestination::Text:
             addText(rest);
             break;
@@ -292,12 +293,12 @@ void RtfReader::takeText(QStringView text) {
 }
 
 void RtfReader::takeBytes(QStringView bytes) {
-    if (tooDeep_ == 0 && state_.destination == RtfDestination::Picture)
+    if (destination() == RtfDestination::Picture)
         picture_.addBytes(bytes);
 }
 
 void RtfReader::addText(QStringView text) {
-    if (text.isEmpty() || state_.characters.isHidden)
+    if (state_.characters.isHidden)
         return;
     if (std::all_of(text.begin(), text.end(), isOrdinary)) {
         builder_.add(text, format());
@@ -305,13 +306,16 @@ void RtfReader::addText(QStringView text) {
     }
     QString ordinary;
     std::copy_if(text.begin(), text.end(), std::back_inserter(ordinary), isOrdinary);
-    if (!ordinary.isEmpty())
-        builder_.add(ordinary, format());
+    builder_.add(ordinary, format());
 }
 
 void RtfReader::endParagraph() {
-    if (tooDeep_ == 0 && state_.destination == RtfDestination::Text)
+    if (destination() == RtfDestination::Text)
         builder_.endParagraph(state_.paragraph, format());
+}
+
+RtfDestination RtfReader::destination() const {
+    return tooDeep_ > 0 ? RtfDestination::Nobody : state_.destination;
 }
 
 const RichFormat& RtfReader::format() {

@@ -24,7 +24,7 @@ void turnUnderlineOff(RtfState& state, Number) {
 }
 
 void setFont(RtfState& state, Number number) {
-    state.characters.font = number.value_or(0);
+    state.characters.font = number;
 }
 
 void setSize(RtfState& state, Number number) {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractTextDocumentLayout>
 #include <QImage>
 #include <QPainter>
 #include <QPushButton>
@@ -11,6 +12,7 @@
 #include <QTextCursor>
 #include <limits>
 
+#include "controls/picture_object.h"
 #include "controls/rich_text_document.h"
 #include "controls/text_colours.h"
 #include "rtf/rich_text_marks.h"
@@ -103,6 +105,12 @@ TEST_F(RichTextBoxTest, KeepsTheStartWhenTheLengthIsSetAgain) {
     select(5, 4);
     box_.setSelLength(7);
     EXPECT_EQ(selected(), QStringLiteral("Body of"));
+    QTextCursor backwards = box_.textCursor();
+    backwards.setPosition(12);
+    backwards.setPosition(5, QTextCursor::KeepAnchor);
+    box_.setTextCursor(backwards);
+    box_.setSelLength(4);
+    EXPECT_EQ(selected(), QStringLiteral("Body"));
 }
 
 TEST_F(RichTextBoxTest, TakesWhatIsBeyondTheTextForItsEnd) {
@@ -183,6 +191,9 @@ TEST_F(RichTextBoxTest, KeepsTheOtherStylesWhenOneIsSet) {
 TEST_F(RichTextBoxTest, HasItsOwnFontSizeWhereNoneIsSet) {
     select(0, 1);
     EXPECT_EQ(box_.SelFontSize(), box_.font().pointSizeF());
+    box_.setFont(QFont(QStringLiteral("DejaVu Sans"), 23));
+    EXPECT_EQ(box_.SelFontSize(), 23);
+    EXPECT_EQ(box_.document()->defaultFont().pointSizeF(), 23);
 }
 
 TEST_F(RichTextBoxTest, ShowsATextInItsOwnStyleWhateverStoodThereBefore) {
@@ -238,6 +249,7 @@ TEST_F(RichTextBoxTest, IsReadAndNotWritten) {
     pressKey(box_, Qt::Key_Delete);
     EXPECT_EQ(box_.Text(), kText);
     EXPECT_FALSE(box_.testAttribute(Qt::WA_InputMethodEnabled));
+    EXPECT_FALSE(box_.isUndoRedoEnabled());
     EXPECT_TRUE(box_.textInteractionFlags() & Qt::TextSelectableByMouse);
     EXPECT_TRUE(box_.textInteractionFlags() & Qt::TextSelectableByKeyboard);
 }
@@ -263,12 +275,12 @@ class RichTextFiles : public testing::Test {
 
     QByteArray bytesOf(const char* name) const { return fileBytes(path(name)); }
 
-    // A picture of an inch by half an inch.
+    // A picture of an inch by a quarter of one.
     QString picture() const {
         QImage picture(300, 150, QImage::Format_RGB32);
         picture.fill(Qt::red);
         picture.setDotsPerMeterX(11811);
-        picture.setDotsPerMeterY(11811);
+        picture.setDotsPerMeterY(23622);
         picture.save(path("picture.bmp"));
         return path("picture.bmp");
     }
@@ -288,6 +300,14 @@ TEST_F(RichTextFiles, ShowADocument) {
     EXPECT_EQ(box_.SelStart(), 0);
 }
 
+TEST_F(RichTextFiles, HaveATabEveryHalfInch) {
+    box_.show();
+    box_.setTextRTF(QStringLiteral("{\\rtf1\\tab x}"));
+    const int start = box_.cursorRect().left();
+    box_.setSelStart(1);
+    EXPECT_EQ(box_.cursorRect().left(), start + 48);
+}
+
 TEST_F(RichTextFiles, ShowATextThatIsNoDocumentAsItStands) {
     box_.setTextRTF(kDocument);
     box_.setTextRTF(QStringLiteral("{plain} \\b"));
@@ -303,13 +323,18 @@ TEST_F(RichTextFiles, TakeAPictureWhereTheCaretIs) {
     EXPECT_EQ(box_.SelStart(), 11);
     box_.addPicture(picture());
     EXPECT_EQ(box_.Text(), u"Head\r\n\tBody\r\n ");
-    EXPECT_EQ(marksOf(richTextOf(*box_.document())).last(), u"centre:[picture 1440x720]");
+    EXPECT_EQ(marksOf(richTextOf(*box_.document())).last(), u"centre:[picture 1440x360]");
 }
 
 TEST_F(RichTextFiles, TakeNoPictureThatIsNone) {
     EXPECT_EQ(errorOf([this] { box_.addPicture(path("none.bmp")); }), 53);
     makeFile(path("text.bmp"), "no picture");
     EXPECT_EQ(errorOf([this] { box_.addPicture(path("text.bmp")); }), 321);
+}
+
+TEST_F(RichTextFiles, HaveTheirPicturesPaintedWithEveryLine) {
+    const QAbstractTextDocumentLayout& layout = *box_.document()->documentLayout();
+    EXPECT_TRUE(dynamic_cast<PictureObject*>(layout.handlerForObject(QTextFormat::ImageObject)));
 }
 
 TEST_F(RichTextFiles, ShowAPictureInItsSizeOnPaper) {
@@ -319,7 +344,7 @@ TEST_F(RichTextFiles, ShowAPictureInItsSizeOnPaper) {
     const QImage shown = box_.viewport()->grab().toImage();
     int width = 0;
     for (int x = 0; x < shown.width(); ++x)
-        width += shown.pixelColor(x, 30) == QColor(Qt::red) ? 1 : 0;
+        width += shown.pixelColor(x, 20) == QColor(Qt::red) ? 1 : 0;
     EXPECT_NEAR(width, 96, 1);
 }
 
@@ -357,15 +382,17 @@ TEST_F(RichTextFiles, WrapAsOnPaperHoweverWideTheBoxIs) {
 
 TEST_F(RichTextFiles, WrapAsOnPaperWhereThePagesDo) {
     box_.setText(QStringLiteral("Many a word, of more or fewer letters. ").repeated(40));
-    box_.wrapAsOnPaper(4000);
     box_.show();
-    const int lines = box_.document()->begin().lineCount();
-    const double height = box_.document()->begin().layout()->boundingRect().height();
     QImage sheet(10, 10, QImage::Format_RGB32);
     QPainter painter(&sheet);
-    EXPECT_EQ(box_.pages(4000).paint(painter, {0, 0, 4000, height * 15 + 1}, 0),
-              box_.Text().size());
-    EXPECT_LT(
-        box_.pages(4000).paint(painter, {0, 0, 4000, height * 15 * (lines - 1) / lines + 1}, 0),
-        box_.Text().size());
+    for (const int width : {4000, 5000, 6000, 7000}) {
+        box_.wrapAsOnPaper(width);
+        const int lines = box_.document()->begin().layout()->lineCount();
+        const double height = box_.document()->begin().layout()->boundingRect().height() * 15;
+        EXPECT_EQ(box_.pages(width).paint(painter, QRectF(0, 0, width, height + 1), 0),
+                  box_.Text().size());
+        EXPECT_LT(box_.pages(width).paint(painter,
+                                          QRectF(0, 0, width, height * (lines - 1) / lines + 1), 0),
+                  box_.Text().size());
+    }
 }

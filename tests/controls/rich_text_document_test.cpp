@@ -51,7 +51,7 @@ TEST_F(RichTextDocument, ShowsEveryFormat) {
                     .leftIndent = 15,
                     .rightIndent = 30,
                     .firstIndent = -45,
-                    .spaceBefore = 60,
+                    .spaceBefore = 123,
                     .spaceAfter = 75,
                     .tabs = {90, 1500}},
          .runs = {{QStringLiteral("Žofie\tx\u2028y"), all}, {QStringLiteral(" 😀"), plain}},
@@ -73,15 +73,19 @@ TEST_F(RichTextDocument, ShowsATextInPlaceOfTheLast) {
 TEST_F(RichTextDocument, IsInTheDocumentsFontWhereNoOtherIsAskedFor) {
     const RichText again = shownAgain({{.runs = {{QStringLiteral("one"), {}}}}});
     EXPECT_EQ(again.front().runs.front().format.font, document_.defaultFont().family());
+    document_.setPlainText(QStringLiteral("one"));
+    EXPECT_EQ(richTextOf(document_).front().runs.front().format.points,
+              document_.defaultFont().pointSizeF());
 }
 
 TEST_F(RichTextDocument, ShowsPicturesInTheSizeTheyAreToHaveOrTheirOwn) {
     const QByteArray file = pngOf(pictureOf({20, 10}));
+    const QByteArray other = pngOf(pictureOf({30, 10}));
     const RichText again = shownAgain({{.runs = {{RichPicture{file, 3000, 1500}, {}},
-                                                 {RichPicture{file, 0, 0}, {}},
+                                                 {RichPicture{other, 0, 0}, {}},
                                                  {QStringLiteral("x"), {}}}}});
     EXPECT_EQ(marksOf(again.front().runs[0]), u"[picture 3000x1500]");
-    EXPECT_EQ(marksOf(again.front().runs[1]), u"[picture 300x150]");
+    EXPECT_EQ(marksOf(again.front().runs[1]), u"[picture 450x150]");
     const QImage shown =
         QImage::fromData(std::get<RichPicture>(again.front().runs[0].content).file);
     EXPECT_EQ(shown.size(), QSize(20, 10));
@@ -107,7 +111,7 @@ TEST_F(RichTextDocument, PaintsItsColoursForAPaletteAndThenForAnother) {
     dark.setColor(QPalette::Base, Qt::black);
     dark.setColor(QPalette::Text, Qt::white);
     showRichText(document_,
-                 {{.runs = {{QStringLiteral("a"), {.colour = kBlue}}, {QStringLiteral("b"), {}}}}},
+                 {{.runs = {{QStringLiteral("ab"), {.colour = kBlue}}, {QStringLiteral("c"), {}}}}},
                  QPalette(Qt::white));
     const auto colourAt = [this](int place) {
         QTextCursor cursor(&document_);
@@ -117,6 +121,7 @@ TEST_F(RichTextDocument, PaintsItsColoursForAPaletteAndThenForAnother) {
     EXPECT_EQ(colourAt(0), textColour(kBlue, QPalette(Qt::white)));
     recolour(document_, dark);
     EXPECT_EQ(colourAt(0), textColour(kBlue, dark));
+    EXPECT_EQ(colourAt(1), textColour(kBlue, dark));
     EXPECT_EQ(document_.begin().textFormats()[1].format.foreground().style(), Qt::NoBrush);
     EXPECT_EQ(richTextOf(document_).front().runs.front().format.colour, kBlue);
 }

@@ -42,6 +42,12 @@ TEST(Dib, HasItsPixelsBehindItsHeaderAndPalette) {
     EXPECT_EQ(placeOfPixels(bitmap(8, 0, 0xFFFFFFFF)), 54U + 256 * 4);
 }
 
+TEST(Dib, HasItsMasksWithinAHeaderLongEnough) {
+    QByteArray dib = bitmap(32, 3);
+    dib[0] = 108;
+    EXPECT_EQ(placeOfPixels(dib), 14U + 108);
+}
+
 TEST(Dib, MayHaveTheOldHeader) {
     QByteArray dib(40, '\0');
     dib[0] = 12;

@@ -32,6 +32,7 @@ RichParagraphFormat formatOfFirst(const char* body) {
 TEST(RtfReader, KnowsADocumentByItsBeginning) {
     EXPECT_TRUE(isRtf(u"{\\rtf1 x}"));
     EXPECT_FALSE(isRtf(u""));
+    EXPECT_FALSE(isRtf(u"{Plain}"));
     EXPECT_FALSE(isRtf(u"Plain {\\rtf1 x}"));
 }
 
@@ -48,7 +49,7 @@ TEST(RtfReader, EndsAParagraphWithParInAGroupOfItsOwnToo) {
 
 TEST(RtfReader, LeavesLineEndsAsTheyStandOut) {
     EXPECT_EQ(shown(" one\r\ntwo"), list({"onetwo"}));
-    EXPECT_EQ(shown(" one\\\ntwo"), list({"one", "two"}));
+    EXPECT_EQ(shown(" one\\\ntwo\\\r\nthree"), list({"one", "two", "three"}));
 }
 
 TEST(RtfReader, TurnsFormatsOnAndOff) {
@@ -84,14 +85,17 @@ TEST(RtfReader, TakesHalfPointsForSizesWithinLimits) {
 TEST(RtfReader, FindsFontsByTheirNumbers) {
     const char* table =
         "\\deff1{\\fonttbl{\\f0\\fswiss\\fprq2\\fcharset0 Arial;}{\\f1\\fnil Times New Roman;}}";
-    EXPECT_EQ(shown((QByteArray(table) + "a\\f0 b\\f1 c\\f7 d\\plain e").constData()),
-              list({"<Times New Roman>a<Arial>b<Times New Roman>cd<Times New Roman>e"}));
+    EXPECT_EQ(shown((QByteArray(table) + "a\\f0 b\\f1 c\\f7 d\\plain e\\f0 f\\f g").constData()),
+              list({"<Times New Roman>a<Arial>b<Times New Roman>cd<Times New Roman>e<Arial>f"
+                    "<Times New Roman>g"}));
 }
 
 TEST(RtfReader, ReadsAFontWithAnotherNameInAGroup) {
     EXPECT_EQ(shown("{\\fonttbl{\\f0\\fnil{\\*\\falt Sans}Arial;}}x"), list({"<Arial>x"}));
     EXPECT_EQ(shown("{\\fonttbl\\f0\\fswiss Arial;\\f1 Courier;}\\f1 x"), list({"<Courier>x"}));
     EXPECT_EQ(shown("{\\fonttbl{\\f0 M\\'fcller;}}x"), list({"<Müller>x"}));
+    EXPECT_EQ(shown("{\\fonttbl x{\\f0 Arial;{y}}}a"), list({"<Arial>a"}));
+    EXPECT_EQ(shown(" a{\\fonttbl{\\f0 Arial;}}b"), list({"a<Arial>b"}));
     EXPECT_EQ(shown("{\\fonttbl{\\f0 Arial;}}{\\fonttbl{\\f0 Courier;}}x"), list({"<Courier>x"}));
 }
 
@@ -99,6 +103,8 @@ TEST(RtfReader, FindsColoursByTheirNumbers) {
     const char* table = "{\\colortbl ;\\red0\\green0\\blue255;\\red255\\green128\\blue1;}";
     EXPECT_EQ(shown((QByteArray(table) + "\\cf1 a\\cf2 b\\cf0 c\\cf9 d\\cf-1 e").constData()),
               list({"<#ff0000>a<#0180ff>bcde"}));
+    EXPECT_EQ(shown("{\\colortbl\\red255;;\\green1\\green2;}\\cf1 a\\cf2 b\\cf c"),
+              list({"a<#000200>b<#0000ff>c"}));
     EXPECT_EQ(shown("{\\colortbl\\red999\\green-5\\blue0;}\\cf0 a"), list({"<#0000ff>a"}));
 }
 
@@ -117,6 +123,7 @@ TEST(RtfReader, ReadsTheFormatsOfParagraphs) {
 TEST(RtfReader, KeepsLengthsWithinTwentyTwoInches) {
     EXPECT_EQ(formatOfFirst("\\li99999\\sb-99999\\tx99999 a"),
               (RichParagraphFormat{.leftIndent = 31680, .spaceBefore = -31680, .tabs = {31680}}));
+    EXPECT_EQ(formatOfFirst("\\tx-5 a").tabs, std::vector<Long>{0});
     QByteArray manyTabs;
     for (int tab = 0; tab < 1000; ++tab)
         manyTabs += "\\tx100";
@@ -135,6 +142,7 @@ TEST(RtfReader, ReadsCharactersOfTheCodePage) {
 TEST(RtfReader, ReadsCharactersByTheirNumbersAndPassesTheirStandInsOver) {
     EXPECT_EQ(shown(" \\u1063?x\\u8364 ?y"), list({"Чx€y"}));
     EXPECT_EQ(shown("\\uc0\\u1063 x"), list({"Чx"}));
+    EXPECT_EQ(shown("\\uc0\\uc\\u1063?x"), list({"Чx"}));
     EXPECT_EQ(shown("\\uc3\\u1063\\'d7ab c"), list({"Ч c"}));
     EXPECT_EQ(shown("\\uc2 a{\\uc1\\u1063?}\\u1063??b"), list({"aЧЧb"}));
     EXPECT_EQ(shown(" \\u1063\\b x"), list({"Ч<b>x"}));
@@ -168,12 +176,11 @@ TEST(RtfReader, MakesAParagraphOfWhatStandsBeforeAPageAColumnOrASection) {
 }
 
 TEST(RtfReader, LeavesOutWhatNoTextCanHold) {
-    EXPECT_EQ(shown(QStringLiteral(" a\u0001\u001F%1%2%3\tz")
-                        .arg(QChar(0xFFFC))
-                        .arg(QChar(0xFDD0))
-                        .arg(QChar(0x2029))),
-              list({"a\tz"}));
+    for (const int character : {0x0001, 0x001F, 0xFFFC, 0xFDD0, 0xFDD1, 0x2029})
+        EXPECT_EQ(shown(QStringLiteral(" a%1\tz").arg(QChar(character))), list({"a\tz"}))
+            << character;
     EXPECT_EQ(shown(" a\\u7?\\u0?\\u-4?z"), list({"az"}));
+    EXPECT_TRUE(readRtf(u"{\\rtf1\\u7?}").front().runs.empty());
 }
 
 TEST(RtfReader, PassesOverWhatItDoesNotKnow) {
@@ -181,7 +188,16 @@ TEST(RtfReader, PassesOverWhatItDoesNotKnow) {
     EXPECT_EQ(shown(" a{\\*\\generator Some \\b writer;{x}}b"), list({"ab"}));
     EXPECT_EQ(shown(" a{\\info{\\title T\\par}}{\\header H}{\\footnote F}b"), list({"ab"}));
     EXPECT_EQ(shown("{\\stylesheet{\\s0 Normal;}{\\s1\\b Head;}}b"), list({"b"}));
-    EXPECT_EQ(shown(" a\\*b{\\*c}"), list({"abc"}));
+    EXPECT_EQ(shown(" a\\*b{\\*c}{*\\b d}"), list({"abc*<b>d"}));
+    EXPECT_EQ(shown(" a{\\*\\nonsense b\\\n{\\fonttbl{\\f0 Arial;}}}c"), list({"ac"}));
+}
+
+TEST(RtfReader, PassesOverWhatIsForOthers) {
+    for (const char* group : {"annotation", "filetbl", "fldinst", "footer", "footerf", "footerl",
+                              "footerr", "footnote", "ftnsep", "header", "headerf", "headerl",
+                              "headerr", "info", "nonshppict", "objdata", "stylesheet"})
+        EXPECT_EQ(shown(QStringLiteral(" a{\\%1 x{y}}b").arg(QLatin1String(group))), list({"ab"}))
+            << group;
 }
 
 // A person's notes may hold the path of a file.
@@ -199,13 +215,14 @@ TEST(RtfReader, ReadsTheResultOfAFieldAlone) {
 TEST(RtfReader, ReadsAPictureInHexadecimalDigits) {
     const RichText text = readRtf(
         u"{\\rtf1 a{\\pict{\\*\\picprop x}\\pngblip\\picw1\\pich1\\picwgoal300\\pichgoal150\r\n"
-        u"8950\r\n4e47}b}");
+        u"8950\r\n4e{\\bliptag1 47}}b}");
     EXPECT_EQ(marksOf(text), list({"a[picture 300x150]b"}));
     EXPECT_EQ(std::get<RichPicture>(text.front().runs[1].content).file, QByteArray("\x89PNG"));
 }
 
 TEST(RtfReader, ReadsAPictureInBytes) {
-    const RichText text = readRtf(u"{\\rtf1{\\pict\\jpegblip\\bin4 ÿØ}{}}");
+    const RichText text =
+        readRtf(u"{\\rtf1{\\pict\\jpegblip\\bin2 ÿØ{\\*\\blipuid\\bin1 x}\\bin2 }{}}");
     ASSERT_EQ(text.front().runs.size(), 1U);
     EXPECT_EQ(std::get<RichPicture>(text.front().runs[0].content).file, QByteArray("\xFF\xD8}{"));
 }
@@ -213,6 +230,9 @@ TEST(RtfReader, ReadsAPictureInBytes) {
 TEST(RtfReader, ScalesAPicture) {
     EXPECT_EQ(shown("{\\pict\\pngblip\\picwgoal300\\pichgoal150\\picscalex50\\picscaley200 89}"),
               list({"[picture 150x300]"}));
+    EXPECT_EQ(
+        shown("{\\pict\\pngblip\\picwgoal300\\pichgoal2000\\picscalex\\picscaley2147483647 89}"),
+        list({"[picture 300x31680]"}));
     EXPECT_EQ(shown("{\\pict\\pngblip\\picwgoal99999\\pichgoal-5 89}"),
               list({"[picture 31680x0]"}));
 }
@@ -243,8 +263,8 @@ TEST(RtfReader, PassesOverWhatLiesTooDeep) {
     const QString opened = QStringLiteral("{").repeated(1'000'000);
     EXPECT_EQ(shown(QStringLiteral(" a") + opened + QStringLiteral("deep")), list({"a"}));
     const QString closed = QStringLiteral("}").repeated(1'000'000);
-    EXPECT_EQ(shown(QStringLiteral(" a") + opened + QStringLiteral("{\\b deep\\par\\tab\\u88?") +
-                    u'}' + closed + u'b'),
+    EXPECT_EQ(shown(QStringLiteral(" a") + opened +
+                    QStringLiteral("{\\b deep\\par\\\n\\tab\\u88?") + u'}' + closed + u'b'),
               list({"ab"}));
 }
 

@@ -57,6 +57,8 @@ TEST(RtfTokens, AreGroupsWordsAndTexts) {
 
 TEST(RtfTokens, TakeOneBlankBehindAWordForItsEnd) {
     EXPECT_EQ(tokensOf(uR"(\b  two)"), list({"\\b", "\" two\""}));
+    EXPECT_EQ(tokensOf(uR"(\b )"), list({"\\b"}));
+    EXPECT_EQ(tokensOf(uR"(\aNnA7 )"), list({"\\aNnA7"}));
     EXPECT_EQ(tokensOf(uR"(\b0\tab x)"), list({"\\b0", "\\tab", "\"x\""}));
     EXPECT_EQ(tokensOf(uR"(\fs20;x)"), list({"\\fs20", "\";x\""}));
 }
@@ -86,6 +88,7 @@ TEST(RtfTokens, KnowSymbolsAndBytes) {
 
 TEST(RtfTokens, TakeAByteWithoutTwoDigitsForASymbol) {
     EXPECT_EQ(tokensOf(uR"(\'zz)"), list({"symbol '", "\"zz\""}));
+    EXPECT_EQ(tokensOf(uR"(\'4z)"), list({"symbol '", "\"4z\""}));
     EXPECT_EQ(tokensOf(uR"(a\'4)"), list({"\"a\"", "symbol '", "\"4\""}));
     EXPECT_EQ(tokensOf(uR"(\'\')"), list({"symbol '", "symbol '"}));
 }

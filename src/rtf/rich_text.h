@@ -54,6 +54,7 @@ struct RichParagraphFormat {
 };
 
 inline constexpr Long kDefaultTab = 720;
+inline constexpr Long kLongest = 31680;  // 22 inches; no length is read as longer
 
 struct RichParagraph {
     RichParagraphFormat format = {};

@@ -9,9 +9,8 @@ namespace {
 
 // A length in twips at a scale in per cent.
 Long scaled(Long length, Long scale) {
-    constexpr std::int64_t kMost = 31680;  // 22 inches
     return static_cast<Long>(
-        std::clamp<std::int64_t>(std::int64_t{length} * scale / 100, 0, kMost));
+        std::clamp<std::int64_t>(std::int64_t{length} * scale / 100, 0, kLongest));
 }
 
 }  // namespace

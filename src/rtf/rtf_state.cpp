@@ -7,7 +7,6 @@
 namespace {
 
 constexpr Long kMostHalfPoints = 3276;
-constexpr Long kLongest = 31680;  // twips, 22 inches
 constexpr std::size_t kMostTabs = 64;
 
 using Number = std::optional<Long>;

@@ -2,31 +2,55 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
+#include <numeric>
 
 #include "rtf/rtf_reader.h"
 #include "rtf/rtf_writer.h"
 
-inline qsizetype charactersOf(const RichText& text) {
-    qsizetype characters = 0;
+// The letters of a text, a line for each paragraph, without its pictures.
+inline QString lettersOf(const RichText& text) {
+    QString letters;
     for (const RichParagraph& paragraph : text) {
-        ++characters;
         for (const RichRun& run : paragraph.runs) {
             if (const auto* piece = std::get_if<QString>(&run.content))
-                characters += piece->size();
-            else
-                characters += std::get<RichPicture>(run.content).file.size();
+                letters += *piece;
         }
+        letters += u'\n';
     }
-    return characters;
+    return letters;
 }
 
-// Reads a document of any bytes, writes it and reads that: whether it grew no more than a bitmap's
-// header for each picture, and whether what was written shows the same.
-inline bool canReadAnything(const QByteArray& bytes) {
+inline QList<qsizetype> pictureSizesOf(const RichText& text) {
+    QList<qsizetype> sizes;
+    for (const RichParagraph& paragraph : text) {
+        for (const RichRun& run : paragraph.runs) {
+            if (const auto* picture = std::get_if<RichPicture>(&run.content))
+                sizes += picture->file.size();
+        }
+    }
+    return sizes;
+}
+
+// Whether a text has no more than the bytes that it was read from, and a header for each picture.
+inline bool isMadeOf(const QByteArray& bytes, const RichText& text) {
     constexpr qsizetype kPictureHeader = 14;
+    const QList<qsizetype> pictures = pictureSizesOf(text);
+    const qsizetype allowed = bytes.size() + pictures.size() * kPictureHeader + 1;
+    return std::accumulate(pictures.begin(), pictures.end(), lettersOf(text).size()) <= allowed;
+}
+
+inline RichText writtenAndRead(const RichText& text) {
+    return readRtf(QString::fromLatin1(writeRtf(text)));
+}
+
+// Reads a document of any bytes and writes it: whether it is made of those bytes, keeps its
+// letters, and is the same from then on, whatever may have got lost of its pictures and formats at
+// first.
+inline bool canReadAnything(const QByteArray& bytes) {
     const RichText text = readRtf(QString::fromLatin1(bytes));
-    const RichText again = readRtf(QString::fromLatin1(writeRtf(text)));
-    return !text.empty() && charactersOf(text) <= bytes.size() * kPictureHeader + 1 &&
-           again.size() == text.size() && charactersOf(again) <= charactersOf(text);
+    const RichText again = writtenAndRead(text);
+    return !text.empty() && isMadeOf(bytes, text) && lettersOf(again) == lettersOf(text) &&
+           writtenAndRead(again) == again;
 }

@@ -55,6 +55,7 @@ QRect pixels(const QRectF& twips) {
 frmDailyReport::frmDailyReport(QWidget* owner)
     : Form(owner), ui_(std::make_unique<Ui::frmDailyReport>()) {
     ui_->setupUi(this);
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
     setUpDialog();
     setUpCharts();
     connectEvents();

@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QImage>
 
+#include "controls/file_dialog.h"
+#include "controls/picture_box.h"
 #include "controls/rich_text_document.h"
 #include "controls/twips.h"
 #include "reports/report_driver.h"
@@ -75,6 +77,7 @@ TEST_F(ReportWindow, OpensWithThePromptAndNoReport) {
     EXPECT_EQ(colourBoxes(), std::pair(false, false));
     EXPECT_TRUE(defaultInstance<frmWait>().isHidden());
     EXPECT_EQ(of<QWidget>("client").size(), QSize(457, 398));
+    EXPECT_TRUE(form_->windowFlags().testFlag(Qt::WindowMaximizeButtonHint));
 }
 
 TEST_F(ReportWindow, CallsItsControlsByTheirTexts) {
@@ -93,6 +96,7 @@ TEST_F(ReportWindow, CallsItsControlsByTheirTexts) {
     EXPECT_TRUE(of<QCheckBox>("chkColour_0").isChecked());
     EXPECT_EQ(of<QCheckBox>("chkColour_1").text(), u"Colour");
     EXPECT_TRUE(of<QCheckBox>("chkColour_1").isChecked());
+    EXPECT_TRUE(form_->findChild<FileDialog*>(QStringLiteral("dlgDaily")));
 }
 
 TEST_F(ReportWindow, ShowsTheDailyReportWithItsChart) {
@@ -152,6 +156,7 @@ TEST_F(ReportWindow, LeavesNothingOnTheClipboardAndNoFile) {
     for (const char* report : {"mnuReportDaily", "mnuReportMonthly"}) {
         choose(report);
         EXPECT_EQ(host_.clipboard(), std::nullopt) << report;
+        EXPECT_TRUE(of<PictureBox>("Picture1").pixmap(Qt::ReturnByValue).isNull()) << report;
         EXPECT_FALSE(QFile::exists(directory_.path(QStringLiteral("tempchart.bmp")))) << report;
     }
 }
@@ -179,6 +184,7 @@ TEST_F(ReportWindow, EndsTheProgramWhereThePictureCannotBeWritten) {
     choose("mnuReportDaily");
     EXPECT_EQ(host_.exitCode(), 1);
     EXPECT_TRUE(host_.clipboard());
+    EXPECT_EQ(of<PictureBox>("Picture1").pixmap(Qt::ReturnByValue).size(), QSize(1128, 878));
     EXPECT_TRUE(picture().isNull());
     host_.forgetExit();
 }
@@ -235,6 +241,7 @@ TEST_F(ReportWindow, IsAsWideAsThePrintersLine) {
     modCycles::ReportToScreen = false;
     open();
     EXPECT_EQ(form_->width(), (11906 - 2880 + 200) / 15);
+    EXPECT_EQ(of<QWidget>("client").height(), 398);
     EXPECT_EQ(of<RichTextBox>("rtbDaily").document()->textWidth(), (11906 - 2880) / 15);
     EXPECT_TRUE(tray_.sheets.empty());
 }
@@ -256,6 +263,9 @@ TEST_F(ReportWindow, LaysItselfOutInEverySize) {
     EXPECT_NEAR(box.width() * 15, client.width() * 15 - 200, 15);
     EXPECT_NEAR(box.height() * 15, client.height() * 15 - 600, 15);
     EXPECT_NEAR(of<QWidget>("cmdPrint").x() * 15, 350 * 15 - 547, 15);
+    EXPECT_NEAR(of<QWidget>("cmdClose").x() * 15, 350 * 15 - 547 + 1145, 15);
+    EXPECT_NEAR(of<QWidget>("cmdSave").x() * 15, 350 * 15 - 547 - 1145, 15);
+    EXPECT_EQ(of<QWidget>("chkColour_0").geometry(), QRect(8, 8, 73, 25));
 }
 
 TEST_F(ReportWindow, SavesWhereTheUserChooses) {

@@ -24,7 +24,7 @@ RichTextPages::RichTextPages(const QTextDocument& document, double lineWidth)
 }
 
 // A block's lines count from its top. What ends a line within a block is a character of its own,
-// which counts twice as well.
+// which counts twice as well; the last line has none.
 void RichTextPages::addLines(const QTextBlock& block) {
     const QTextLayout& layout = *block.layout();
     const QPointF origin = document_->documentLayout()->blockBoundingRect(block).topLeft();
@@ -37,8 +37,7 @@ void RichTextPages::addLines(const QTextBlock& block) {
         counted = line.textStart();
         lines_.push_back({end_, origin.y() + line.y(), origin.y() + line.y() + line.height()});
     }
-    const QStringView rest = QStringView(text).mid(counted);
-    end_ += static_cast<Long>(rest.size() + rest.count(QChar::LineSeparator));
+    end_ += static_cast<Long>(text.size() - counted);
     if (block.next().isValid())
         end_ += 2;
 }

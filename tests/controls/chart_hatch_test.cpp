@@ -75,7 +75,43 @@ TEST(ChartHatch, StaysWithinTheBar) {
     }
 }
 
-TEST(ChartHatch, IsAsWideApartAtEveryScale) {
-    const int lines = crossed(hatched(Hatch::Standing), {12, 32}, kAcross);
-    EXPECT_NEAR(crossed(hatched(Hatch::Standing, 2.0 / 15), {12, 32}, kAcross), lines / 2, 1);
+TEST(ChartHatch, IsAsWideApartAndAsThickAtEveryScale) {
+    const auto expectHalf = [](Hatch hatch, QPoint from, QPoint step) {
+        const int lines = crossed(hatched(hatch), from, step);
+        EXPECT_GT(lines, 5) << static_cast<int>(hatch);
+        EXPECT_NEAR(crossed(hatched(hatch, 2.0 / 15), from, step), lines / 2, 1)
+            << static_cast<int>(hatch);
+    };
+    expectHalf(Hatch::Level, {32, 12}, kDown);
+    expectHalf(Hatch::Standing, {12, 32}, kAcross);
+    expectHalf(Hatch::Falling, {12, 32}, kAcross);
+    const QImage thick = hatched(Hatch::Standing, 4.0 / 15);
+    EXPECT_TRUE(isInked(thick, 29, 32));
+    EXPECT_TRUE(isInked(thick, 30, 32));
+    EXPECT_TRUE(isInked(thick, 31, 32));
+}
+
+TEST(ChartHatch, ReachesTheEndsOfTheBar) {
+    constexpr double kScale = 1.1 / 15;  // a line every 5.5 pixels
+    int last = 0;
+    for (int y = 10; y < 10 + kSize; ++y)
+        last = isInked(hatched(Hatch::Level, kScale), 32, y) ? y : last;
+    EXPECT_GE(last, 10 + kSize - 6);
+}
+
+TEST(ChartHatch, HasItsOwnColourAndKeepsToWhatMayBePaintedOn) {
+    QImage picture(kSize, kSize, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    painter.setClipRect(0, 0, kSize, 30);
+    const QPen pen = painter.pen();
+    paintHatch(painter, QRectF(0, 0, kSize, kSize),
+               {.fill = Qt::white,
+                .style = BrushStyle::Pattern,
+                .hatch = Hatch::Standing,
+                .patternColour = QColor(125, 125, 125)},
+               4.0 / 15);
+    EXPECT_EQ(painter.pen(), pen);
+    EXPECT_EQ(picture.pixelColor(20, 20), QColor(125, 125, 125));
+    EXPECT_EQ(picture.pixelColor(20, 40), QColor(Qt::white));
 }

@@ -259,6 +259,20 @@ TEST(ChartLayout, DrawsABarFromNoughtToItsValue) {
     EXPECT_EQ(layout.bars[2].box.height(), 0);
 }
 
+TEST(ChartLayout, DrawsABarDownFromNoughtWhereThereMayBeNegativeOnes) {
+    ChartContent content = barChart();
+    content.hasNegativeBars = true;
+    content.table = {.rowLabels = {QString()}, .columns = {{50.0}, {-50.0}}};
+    const ChartLayout layout = layOut(content);
+    const double nought = (360 + 2295) / 2.0;
+    EXPECT_DOUBLE_EQ(valueHeight(content, 0), nought);
+    EXPECT_DOUBLE_EQ(layout.bars[0].box.bottom(), nought);
+    EXPECT_DOUBLE_EQ(layout.bars[1].box.top(), nought);
+    EXPECT_DOUBLE_EQ(layout.bars[1].box.bottom(), valueHeight(content, -50));
+    EXPECT_EQ(layout.grid.front().label, u"100%");
+    EXPECT_EQ(layout.grid.back().label, u"-100%");
+}
+
 TEST(ChartLayout, PutsTheBarsOfARowSideBySideInTheMiddleOfItsBand) {
     ChartContent content = barChart();
     content.table = {.rowLabels = {QString(), QString()}, .columns = {{10, 20}, {30, 40}}};

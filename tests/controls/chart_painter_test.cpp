@@ -76,6 +76,31 @@ TEST(ChartPainter, PaintsNothingOfTheCurvesOutsideThePlotArea) {
     EXPECT_GT(inside, 300);
 }
 
+TEST(ChartPainter, HatchesABarAndDrawsItsEdge) {
+    ChartContent content = wave();
+    content.type = ChartType::Bars;
+    content.table = {.rowLabels = {QString()}, .columns = {{62.5}}};
+    content.series[0].brush = {.fill = Qt::white,
+                               .style = BrushStyle::Pattern,
+                               .hatch = Hatch::Standing,
+                               .patternColour = Qt::green};
+    content.series[0].edgeColour = Qt::blue;
+    const QPointF middle(rowCentre(content, 0), valueHeight(content, 30));
+    const double scale = kPrinter / 15.0;
+    const QImage image = paint(content, kPrinter);
+    int greens = 0;
+    int blues = 0;
+    for (double x = middle.x() - 1500; x < middle.x() + 1500; x += 1 / scale) {
+        const QColor colour = image.pixelColor((QPointF(x, middle.y()) * scale).toPoint());
+        greens += colour == QColor(Qt::green) ? 1 : 0;
+        blues += colour == QColor(Qt::blue) ? 1 : 0;
+    }
+    EXPECT_GT(greens, 40);
+    EXPECT_GT(blues, 4);
+    content.series[0].brush->style = BrushStyle::Solid;
+    EXPECT_EQ(paint(content, kPrinter).pixelColor((middle * scale).toPoint()), QColor(Qt::white));
+}
+
 TEST(ChartPainter, FillsEachBarAndNothingBeyondIt) {
     ChartContent content = wave();
     content.type = ChartType::Bars;

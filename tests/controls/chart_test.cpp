@@ -6,6 +6,7 @@
 #include <QTextDocument>
 
 #include "runtime/event.h"
+#include "support/dark_desktop.h"
 #include "support/errors.h"
 #include "support/recording_host.h"
 #include "support/widget_driver.h"
@@ -153,6 +154,17 @@ TEST_F(ChartTest, FillsItsPictureToTheLowerRightEnd) {
     QImage nothing = end;
     nothing.fill(chart_.palette().color(QPalette::Base));
     EXPECT_NE(end, nothing);
+}
+
+TEST_F(ChartTest, IsDrawnForPaperWhateverTheDesktopIs) {
+    const DarkDesktop dark;
+    chart_.setPalette(QApplication::palette());
+    chart_.setChartData(smallTable());
+    const QImage paper = chart_.paperPicture();
+    EXPECT_EQ(paper.size(), QSize(1053, 753));
+    EXPECT_EQ(paper.pixelColor(0, 0), QColor(Qt::white));
+    EXPECT_EQ(paper.dotsPerMeterX(), 11811);  // 300 to the inch
+    EXPECT_EQ(paper.dotsPerMeterY(), 11811);
 }
 
 TEST_F(ChartTest, LeavesAPictureAsItIsWhenItChanges) {

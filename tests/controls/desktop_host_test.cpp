@@ -1,4 +1,4 @@
-// The boxes of the desktop, its questions for files, its clipboard, and its help.
+// The boxes of the desktop, its questions for files, its clipboard, its printer, and its help.
 #include "controls/desktop_host.h"
 
 #include <gtest/gtest.h>
@@ -7,6 +7,7 @@
 #include <QClipboard>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPrinterInfo>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QWindow>
@@ -14,6 +15,7 @@
 #include "controls/bitmap.h"
 #include "controls/help_browser.h"
 #include "controls/help_window.h"
+#include "support/errors.h"
 #include "support/files.h"
 #include "support/help_files.h"
 #include "support/printing.h"
@@ -121,6 +123,12 @@ TEST_F(DesktopHostTest, AsksForAFileThatIsThereToOpenIt) {
     ASSERT_TRUE(file);
     EXPECT_EQ(file->path, folder_.filePath(QStringLiteral("old.rtf")));
     EXPECT_EQ(file->filterIndex, 1);
+}
+
+TEST_F(DesktopHostTest, FailsForThePrinterWhereThereIsNone) {
+    if (!QPrinterInfo::defaultPrinter().isNull())
+        GTEST_SKIP() << "There is a printer here.";
+    EXPECT_EQ(errorOf([this] { host_.printer(); }), 482);
 }
 
 TEST_F(DesktopHostTest, CopiesABitmapForItselfAndOthers) {

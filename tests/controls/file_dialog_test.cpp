@@ -42,6 +42,14 @@ TEST_F(FileDialogTest, AsksWithItsProperties) {
     EXPECT_EQ(asked().purpose, FilePurpose::Open);
 }
 
+TEST_F(FileDialogTest, HasTheFiltersThatItWasGivenLast) {
+    dialog_.setFilter(QStringLiteral("All files (*.*)|*.*"));
+    dialog_.setFilter(QStringLiteral("Rich Text (*.rtf)|*.rtf"));
+    host_.expectFileQuestion(std::nullopt);
+    dialog_.ShowSave();
+    EXPECT_EQ(asked().filters, QStringList(QStringLiteral("Rich Text (*.rtf)")));
+}
+
 TEST_F(FileDialogTest, AsksBeforeOverwritingByItsFlag) {
     host_.expectFileQuestion(std::nullopt);
     dialog_.ShowSave();

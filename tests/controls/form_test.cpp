@@ -72,6 +72,7 @@ TEST_F(FormLife, PressesItsDefaultButtonByEnter) {
     form.setDefaultButton(form.button);
     const EventCounter presses(form.button, &QPushButton::clicked);
     form.Show();
+    EXPECT_TRUE(form.button.isDefault());
     form.box.setFocus();
     pressKey(form.box, Qt::Key_Space);
     EXPECT_EQ(presses.fired(), 0);

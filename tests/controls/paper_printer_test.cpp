@@ -50,6 +50,17 @@ TEST_F(PaperPrinterTest, ReachesTheWholePaperWhereItHasNoEdge) {
     EXPECT_EQ(paper->ScaleY(600), 720);
 }
 
+TEST_F(PaperPrinterTest, TellsWhatItCannotReach) {
+    auto withEdges = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    withEdges->setOutputFormat(QPrinter::PdfFormat);
+    QPageLayout layout = withEdges->pageLayout();
+    layout.setMinimumMargins({18, 36, 9, 27});  // points
+    withEdges->setPageLayout(layout);
+    const PaperPrinter paper(std::move(withEdges));
+    EXPECT_EQ(paper.physicalOffsetX(), 300);
+    EXPECT_EQ(paper.physicalOffsetY(), 600);
+}
+
 TEST_F(PaperPrinterTest, PaintsInTwipsPageByPage) {
     const auto paper = printer();
     paper->open();
@@ -74,6 +85,11 @@ TEST_F(PaperPrinterTest, LeavesNoTraceOfAJobThatIsDropped) {
     paper->open();
     paper->KillDoc();
     EXPECT_FALSE(QFile::exists(path()));
+}
+
+TEST_F(PaperPrinterTest, HasNoPageOutsideAJob) {
+    const auto paper = printer();
+    EXPECT_EQ(errorOf([&] { paper->NewPage(); }), 482);
 }
 
 TEST_F(PaperPrinterTest, FailsWhereTheDeviceCannotBeReached) {

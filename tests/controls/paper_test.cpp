@@ -5,7 +5,10 @@
 
 #include <QPaintDevice>
 
-TEST(Paper, IsWhiteAndWrittenOnInBlack) {
+#include "support/dark_desktop.h"
+
+TEST(Paper, IsWhiteAndWrittenOnInBlackWhateverTheDesktopIs) {
+    const DarkDesktop dark;
     EXPECT_EQ(paperPalette().color(QPalette::Base), QColor(Qt::white));
     EXPECT_EQ(paperPalette().color(QPalette::Text), QColor(Qt::black));
 }

@@ -8,18 +8,9 @@
 #include <QTextDocument>
 
 #include "controls/rich_text_document.h"
+#include "support/fine_lines.h"
 
 namespace {
-
-// Lines of a pixel, so fine that a picture painted smaller by leaving pixels out is of one colour.
-QImage fineLines() {
-    QImage picture(200, 200, QImage::Format_RGB32);
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x)
-            picture.setPixelColor(x, y, x % 2 == 0 ? Qt::black : Qt::white);
-    }
-    return picture;
-}
 
 class PictureObjectTest : public testing::Test {
   protected:
@@ -57,4 +48,24 @@ TEST_F(PictureObjectTest, LoseNoLinesWhereTheyArePaintedSmaller) {
         EXPECT_GT(grey, 90) << scale;
         EXPECT_LT(grey, 170) << scale;
     }
+}
+
+TEST_F(PictureObjectTest, AreAsSharpAsEverAfterTheyWerePaintedSmaller) {
+    QImage halves(200, 200, QImage::Format_RGB32);
+    halves.fill(Qt::white);
+    QPainter(&halves).fillRect(0, 0, 90, 200, Qt::black);
+    document_.clear();
+    QTextCursor(&document_).insertImage(pictureIn(document_, halves, {750, 1500}));
+    painted(0.2);
+    EXPECT_EQ(painted(1).pixelColor(20, 50), QColor(Qt::black));
+    EXPECT_EQ(painted(1).pixelColor(24, 50), QColor(Qt::white));
+}
+
+TEST_F(PictureObjectTest, AreNotTakenForEachOther) {
+    QImage white(200, 200, QImage::Format_RGB32);
+    white.fill(Qt::white);
+    QTextCursor cursor(&document_);
+    cursor.movePosition(QTextCursor::End);
+    cursor.insertImage(pictureIn(document_, white, {750, 1500}));
+    EXPECT_EQ(painted(1).pixelColor(75, 50), QColor(Qt::white));
 }

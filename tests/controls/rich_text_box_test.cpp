@@ -19,6 +19,7 @@
 #include "rtf/rtf_reader.h"
 #include "support/errors.h"
 #include "support/files.h"
+#include "support/fine_lines.h"
 #include "support/printing.h"
 #include "support/widget_driver.h"
 
@@ -395,4 +396,13 @@ TEST_F(RichTextFiles, WrapAsOnPaperWhereThePagesDo) {
                                           QRectF(0, 0, width, height * (lines - 1) / lines + 1), 0),
                   box_.Text().size());
     }
+}
+
+TEST_F(RichTextFiles, LoseNoLinesOfAPictureShownSmaller) {
+    QTextCursor(box_.document()).insertImage(pictureIn(*box_.document(), fineLines(), {750, 1500}));
+    box_.resize(400, 300);
+    box_.show();
+    const int grey = box_.viewport()->grab().toImage().pixelColor(20, 30).lightness();
+    EXPECT_GT(grey, 90);
+    EXPECT_LT(grey, 170);
 }

@@ -5,10 +5,13 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QTextCursor>
 
 #include "controls/rich_text_box.h"
 #include "controls/rich_text_document.h"
 #include "controls/twips.h"
+#include "support/dark_desktop.h"
+#include "support/fine_lines.h"
 #include "support/printing.h"
 
 namespace {
@@ -61,8 +64,9 @@ TEST_F(RichTextPagesTest, PaintTheTextIntoItsPlace) {
 }
 
 TEST_F(RichTextPagesTest, CountTheCharactersAsTheTextHasThem) {
-    for (const QString& text : {QString(), QStringLiteral("One"), QStringLiteral("One\r\nTwo\r\n"),
-                                QStringLiteral("One\u2028Two\u2028\u2028Three"), lines(3)}) {
+    for (const QString& text :
+         {QString(), QStringLiteral("One"), QStringLiteral("One\r\nTwo\r\n"),
+          QStringLiteral("One\u2028Two\u2028\u2028Three"), QStringLiteral("One\u2028"), lines(3)}) {
         box_.setText(text);
         EXPECT_EQ(paint(box_.pages(4 * kInch), kPlace), box_.Text().size()) << qPrintable(text);
     }
@@ -116,11 +120,17 @@ TEST_F(RichTextPagesTest, PaintOneLineEvenWhereNoneFits) {
     EXPECT_EQ(paint(pages, {0, 0, 4 * kInch, 1}, 22), 22);
 }
 
+TEST_F(RichTextPagesTest, LoseNoLinesOfAPicturePaintedSmaller) {
+    QTextCursor(box_.document()).insertImage(pictureIn(*box_.document(), fineLines(), {750, 1500}));
+    paint(box_.pages(4 * kInch), kPlace);
+    const int grey = sheet_.pixelColor(96 + 10, 96 + 20).lightness();
+    EXPECT_GT(grey, 90);
+    EXPECT_LT(grey, 170);
+}
+
 TEST_F(RichTextPagesTest, HaveTheColoursOfPaperWhateverTheScreenHas) {
-    QPalette dark;
-    dark.setColor(QPalette::Base, Qt::black);
-    dark.setColor(QPalette::Text, Qt::white);
-    box_.setPalette(dark);
+    const DarkDesktop dark;
+    box_.setPalette(QApplication::palette());
     box_.setTextRTF(QStringLiteral(R"({\rtf1{\colortbl;\red0\green0\blue255;}\fs96 M\cf1 M})"));
     paint(box_.pages(4 * kInch), kPlace);
     QSet<QRgb> colours;

@@ -109,6 +109,9 @@ class Desktop:
     def press(self, *keys):
         self._do('xdotool', 'key', *keys)
 
+    def type(self, text):
+        self._do('xdotool', 'type', text)
+
     def close_by_frame(self, window):
         self.raise_window(window)
         self.press('alt+F4')

@@ -127,6 +127,8 @@ TEST_F(CommandsTest, AskForDetailsInWordsOfTheirOwn) {
 TEST_F(CommandsTest, OpenAReportForTheScreen) {
     startWith(kAnna);
     modCycles::ReportToScreen = false;
+    bool hasWaited = false;
+    host_.onPaintWindows([&] { hasWaited = defaultInstance<frmWait>().isVisible(); });
     bool isShown = false;
     onReport(
         [](QWidget& dialog) { click(child<QAbstractButton>(dialog, QStringLiteral("OKButton"))); },
@@ -135,12 +137,14 @@ TEST_F(CommandsTest, OpenAReportForTheScreen) {
                       defaultInstance<frmWait>().isHidden();
         });
     EXPECT_TRUE(isShown);
+    EXPECT_TRUE(hasWaited);
     EXPECT_TRUE(modCycles::ReportToScreen);
     EXPECT_TRUE(host_.messages().empty());
 }
 
 TEST_F(CommandsTest, OpenAReportForTheScreenWhereTheDeviceWasNotAnswered) {
     startWith(kAnna);
+    modCycles::ReportToScreen = false;
     bool isShown = false;
     onReport(
         [](QWidget& dialog) {

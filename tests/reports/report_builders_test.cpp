@@ -53,6 +53,12 @@ TEST_F(ReportBuilders, QuoteTheInterpretationOfTheSigns) {
     EXPECT_EQ(quotation(), interpretation(-1, 1, 1));
 }
 
+TEST_F(ReportBuilders, TellTheValuesThatTheyAreGiven) {
+    buildDay(11, -22, 33);
+    EXPECT_TRUE(box_.Text().contains(
+        u"Emotional: \t11%\r\nPhysical: \t-22%\r\nIntellectual: \t33%\r\nAverage: \t2%\r\n"));
+}
+
 TEST_F(ReportBuilders, AreOfTheSelectedDate) {
     mainControls().dtpSelDate->setValue(DateSerial(2001, 2, 3));
     buildDay(1, 2, 3);

@@ -63,6 +63,17 @@ TEST_F(ReportPersonTest, HasItsValuesInWords) {
     EXPECT_EQ(person.notes, u" a\r\n{b\\c ");
 }
 
+TEST_F(ReportPersonTest, HasItsCategoryWhicheverIsTheCurrentOne) {
+    addCategory(directory_.people(), QStringLiteral("Friends"));
+    addCategory(directory_.people(), QStringLiteral("Family"));
+    const Long nameId = addPerson(directory_.people(), {.name = QStringLiteral("Smith")});
+    Connection connection = openPersonDatabase();
+    Recordset categories(connection, statements::categories());
+    categories.MoveLast();
+    const Recordset person(connection, statements::person(nameId));
+    EXPECT_EQ(reportPerson(person, categories).category, u"Friends");
+}
+
 TEST_F(ReportPersonTest, IsHeadedByTheLastNameAloneWithoutAFirstName) {
     addCategory(directory_.people(), QStringLiteral("Friends"));
     EXPECT_EQ(readAdded({.name = QStringLiteral("Smith")}).fullName, u"Smith");

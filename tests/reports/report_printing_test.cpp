@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "controls/rich_text_box.h"
 #include "support/errors.h"
 #include "support/printing.h"
@@ -41,16 +43,35 @@ TEST_F(ReportPrinting, HasItsPlaceBetweenTheMarginsOfThePaper) {
                          .bottom = 16838 - 1300 - 120}));
 }
 
-TEST_F(ReportPrinting, OverflowsBeyondThirtyTwoBits) {
+TEST_F(ReportPrinting, TakesTheOffsetsInWholeTwips) {
+    tray_.dotsPerInch = 576;
+    tray_.offsetX = 1;  // 2.5 twips
+    tray_.offsetY = 3;  // 7.5 twips
     const SheetPrinter printer(tray_);
-    EXPECT_EQ(errorOf([&] { printArea(printer, 0, 0, -2'147'483'647, 0); }), 6);
-    EXPECT_EQ(errorOf([&] { printArea(printer, 0, 0, 0, -2'147'483'647); }), 6);
+    EXPECT_EQ(printArea(printer, 0, 0, 0, 0).left, -2);
+    EXPECT_EQ(printArea(printer, 0, 0, 0, 0).top, -8);
+    tray_.offsetX = 3;
+    EXPECT_EQ(printArea(printer, 0, 0, 0, 0).left, -8);
+}
+
+// What is beyond is so at once, also where the offset would lead back.
+TEST_F(ReportPrinting, OverflowsBeyondThirtyTwoBits) {
+    constexpr Long kLeast = std::numeric_limits<Long>::min();
+    tray_.offsetX = 16;  // 240 twips
+    tray_.offsetY = 16;
+    const SheetPrinter printer(tray_);
+    EXPECT_EQ(errorOf([&] { printArea(printer, kLeast, 0, 0, 0); }), 6);
+    EXPECT_EQ(errorOf([&] { printArea(printer, 0, kLeast, 0, 0); }), 6);
+    EXPECT_EQ(errorOf([&] { printArea(printer, 0, 0, kLeast + 11'906, 0); }), 6);
+    EXPECT_EQ(errorOf([&] { printArea(printer, 0, 0, 0, kLeast + 16'838); }), 6);
+    EXPECT_EQ(errorOf([&] { printArea(printer, 0, 0, kLeast + 11'907, kLeast + 16'839); }), 0);
+    EXPECT_EQ(errorOf([&] { WysiwygRtf(box_, kLeast + 240, kLeast + 11'907); }), 6);
 }
 
 TEST_F(ReportPrinting, WrapsTheLinesOfTheBoxAsOnPaperWhateverTheOffset) {
     for (const Long offset : {0, 16}) {
         tray_.offsetX = offset;
-        EXPECT_EQ(WysiwygRtf(box_, kInch, kInch), 11906 - 2 * kInch);
+        EXPECT_EQ(WysiwygRtf(box_, 1000, 2 * kInch - 1000), 11906 - 2 * kInch);
         EXPECT_NEAR(box_.document()->textWidth() * 15, 11906 - 2 * kInch, 15);
     }
     EXPECT_TRUE(tray_.sheets.empty());

@@ -17,6 +17,7 @@ struct PrinterTray {
     Long offsetY = 0;
     int dotsPerInch = 96;
     bool isBroken = false;
+    std::size_t paper = 100;          // sheets, without which it fails
     std::vector<QImage> sheets = {};  // of the jobs that were ended
     int droppedJobs = 0;
 
@@ -38,7 +39,6 @@ struct PrinterTray {
 class SheetPrinter final : public Printer {
   public:
     explicit SheetPrinter(PrinterTray& tray) : tray_(tray) {}
-    ~SheetPrinter() override { KillDoc(); }
 
     Long Width() const override { return tray_.width; }
     Long Height() const override { return tray_.height; }
@@ -56,6 +56,8 @@ class SheetPrinter final : public Printer {
     QPainter& hDC() override { return *painter_; }
 
     void NewPage() override {
+        if (sheets_.size() == tray_.paper)
+            throw RuntimeError(ErrorNumber::Printer);
         painter_.reset();
         const double scale = tray_.dotsPerInch / 1440.0;
         sheets_.emplace_back((QSizeF(tray_.width - 2 * toTwips(tray_.offsetX),
@@ -81,7 +83,7 @@ class SheetPrinter final : public Printer {
     }
 
   private:
-    Long toTwips(Long dots) const { return dots * 1440 / tray_.dotsPerInch; }
+    double toTwips(Long dots) const { return dots * 1440.0 / tray_.dotsPerInch; }
 
     PrinterTray& tray_;
     std::vector<QImage> sheets_;

@@ -44,7 +44,7 @@ void EditCopy(const Chart& chart) {
     host().setClipboardBitmap(bitmapOf(chart.paperPicture()));
 }
 
-QRect pixels(const QRectF& twips) {
+QRect pixelRect(const QRectF& twips) {
     return QRectF(exactPixels(twips.left()), exactPixels(twips.top()), exactPixels(twips.width()),
                   exactPixels(twips.height()))
         .toRect();
@@ -59,7 +59,8 @@ frmDailyReport::frmDailyReport(QWidget* owner)
     setUpDialog();
     setUpCharts();
     connectEvents();
-    resize(pixels({QPointF(), kClientArea}).size() + QSize(0, ui_->mnuDaily->sizeHint().height()));
+    resize(pixelRect({QPointF(), kClientArea}).size() +
+           QSize(0, ui_->mnuDaily->sizeHint().height()));
 }
 
 frmDailyReport::~frmDailyReport() = default;
@@ -121,12 +122,12 @@ void frmDailyReport::Form_KeyDown(QKeyEvent& key) {
 void frmDailyReport::Form_Resize() {
     const ReportWindowPlaces places = reportWindowPlaces(
         toTwips(width()), {toTwips(ui_->client->width()), toTwips(ui_->client->height())});
-    ui_->rtbDaily->setGeometry(pixels(places.rtbDaily));
-    ui_->cmdPrint->setGeometry(pixels(places.cmdPrint));
-    ui_->cmdClose->setGeometry(pixels(places.cmdClose));
-    ui_->cmdSave->setGeometry(pixels(places.cmdSave));
+    ui_->rtbDaily->setGeometry(pixelRect(places.rtbDaily));
+    ui_->cmdPrint->setGeometry(pixelRect(places.cmdPrint));
+    ui_->cmdClose->setGeometry(pixelRect(places.cmdClose));
+    ui_->cmdSave->setGeometry(pixelRect(places.cmdSave));
     for (QCheckBox* box : {ui_->chkColour_0, ui_->chkColour_1})
-        box->setGeometry(pixels(places.chkColour));
+        box->setGeometry(pixelRect(places.chkColour));
 }
 
 void frmDailyReport::mnuReportDaily_Click() {

@@ -19,6 +19,7 @@ FileCondition conditionOf(const QString& path, Access access) {
     const QFileInfo file(path);
     return {.exists = file.exists(),
             .isFolder = file.isDir(),
+            .isOther = file.exists() && !file.isDir() && !file.isFile(),
             .isEmpty = file.size() == 0,
             .isWritable = file.isWritable(),
             .canHaveJournal = access == Access::Read || canHaveJournal(file)};
@@ -31,6 +32,8 @@ std::optional<RuntimeError> objectionTo(const FileCondition& condition, Access a
                          path);
     if (condition.isFolder)
         return fileError(ErrorNumber::PathFileAccess, QStringLiteral("it is a folder"), path);
+    if (condition.isOther)
+        return fileError(ErrorNumber::PathFileAccess, QStringLiteral("it is no file"), path);
     if (condition.isEmpty)
         return fileError(ErrorNumber::InvalidFileFormat, QStringLiteral("the file is empty"), path);
     if (access == Access::Read)

@@ -11,6 +11,7 @@
 struct FileCondition {
     bool exists = true;
     bool isFolder = false;
+    bool isOther = false;  // a pipe or a device, which may never end
     bool isEmpty = false;
     bool isWritable = true;
     bool canHaveJournal = true;  // a file in the same folder, which undoes a write that fails

@@ -7,8 +7,8 @@ struct JetFormat {
     int pageSize;
 
     // In the header of the file.
-    int encodedHeader;  // the bytes from kEncodedHeader on that are encoded
-    int password;       // the bytes of the password
+    int encodedHeader;  // the bytes of it that are encoded
+    int password;       // its bytes
 
     // In a page of rows.
     int rowCount;

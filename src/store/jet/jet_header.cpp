@@ -12,6 +12,7 @@ namespace {
 
 constexpr int kSignature = 4;
 constexpr int kVersion = 0x14;
+constexpr qsizetype kEncodedHeader = 0x18;
 constexpr int kCodePage = 0x3C;
 constexpr int kKey = 0x3E;
 constexpr int kPassword = 0x42;
@@ -36,7 +37,7 @@ class HeaderCipher {
         }
     }
 
-    char recoded(char byte) {
+    char decoded(char byte) {
         ++place_;
         other_ = static_cast<std::uint8_t>(other_ + state_[place_]);
         std::swap(state_[place_], state_[other_]);
@@ -49,6 +50,15 @@ class HeaderCipher {
     std::uint8_t place_ = 0;
     std::uint8_t other_ = 0;
 };
+
+// The header as it was before a part of it was encoded.
+QByteArray decoded(QByteArray header, const JetFormat& format) {
+    HeaderCipher cipher;
+    const auto end = std::min(header.size(), kEncodedHeader + format.encodedHeader);
+    for (qsizetype place = kEncodedHeader; place < end; ++place)
+        header[place] = cipher.decoded(header[place]);
+    return header;
+}
 
 const JetFormat& formatOfVersion(std::uint8_t version) {
     switch (version) {
@@ -84,14 +94,6 @@ bool isJet(const QByteArray& beginning) {
     return beginning.mid(kSignature).startsWith("Standard Jet DB");
 }
 
-QByteArray recodedHeader(QByteArray header, const JetFormat& format) {
-    HeaderCipher cipher;
-    const auto end = std::min(header.size(), qsizetype{kEncodedHeader} + format.encodedHeader);
-    for (qsizetype place = kEncodedHeader; place < end; ++place)
-        header[place] = cipher.recoded(header[place]);
-    return header;
-}
-
 const JetFormat& formatOfHeader(const QByteArray& header) {
     if (!isJet(header)) {
         if (header.mid(kSignature).startsWith("Standard ACE DB"))
@@ -99,8 +101,8 @@ const JetFormat& formatOfHeader(const QByteArray& header) {
         refuse(QStringLiteral("it is no Jet database"));
     }
     const JetFormat& format = formatOfVersion(ByteView(header).numberAt<std::uint8_t>(kVersion));
-    const QByteArray decoded = recodedHeader(header, format);
-    const ByteView view(decoded);
+    const QByteArray plain = decoded(header, format);
+    const ByteView view(plain);
     if (view.numberAt<std::uint32_t>(kKey) != 0)
         refuse(QStringLiteral("it is encrypted"));
     if (hasPassword(view, format))

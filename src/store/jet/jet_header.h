@@ -11,12 +11,8 @@ inline constexpr int kJetSignature = 19;
 // Whether a file that begins with these bytes is a Jet file, of whatever version.
 bool isJet(const QByteArray& beginning);
 
-// The header's bytes that count, and where those begin that are encoded.
+// The bytes of the header.
 inline constexpr int kJetHeader = 0x98;
-inline constexpr int kEncodedHeader = 0x18;
-
-// Encodes the header of that format, and decodes it: once more is as never.
-QByteArray recodedHeader(QByteArray header, const JetFormat& format);
 
 // The format of a file with that header, which may be cut short. Raises JetFailure for what is no
 // Jet file or none that can be read: another version, encrypted, with a password, or with texts in

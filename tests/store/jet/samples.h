@@ -11,7 +11,7 @@
 #include <QStringList>
 #include <vector>
 
-#include "store/value.h"
+#include "store/jet/jet_reading.h"
 
 inline QString samplePath(const char* name) {
     return QDir(QStringLiteral(ONDARA_SAMPLES)).filePath(QLatin1String(name));
@@ -20,8 +20,6 @@ inline QString samplePath(const char* name) {
 #define SKIP_WITHOUT_SAMPLES()                   \
     if (!QFile::exists(samplePath("README.md"))) \
     GTEST_SKIP() << "There are no samples beside the project."
-
-using Rows = std::vector<std::vector<Value>>;
 
 // A table of the description: the fields with their values, a date as the number of its days.
 struct DescribedTable {

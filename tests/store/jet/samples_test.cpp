@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "store/jet/jet_file.h"
+#include "store/jet/jet_reading.h"
 #include "store/jet/samples.h"
 #include "support/errors.h"
 #include "support/printing.h"
@@ -12,14 +13,6 @@ class JetSamples : public testing::Test {
   protected:
     void SetUp() override { SKIP_WITHOUT_SAMPLES(); }
 };
-
-Rows rowsOf(const JetFile& file, const char* table, const QStringList& fields) {
-    JetRows rows = file.table(QLatin1String(table)).rows(fields);
-    Rows all;
-    while (rows.next())
-        all.push_back(rows.values());
-    return all;
-}
 
 QString shown(const std::vector<Value>& row) {
     QStringList texts;
@@ -45,25 +38,11 @@ void expectTable(const char* name, const char* table, const DescribedTable& desc
     expectRows(rowsOf(JetFile(samplePath(name)), table, described.fields), described.rows);
 }
 
-QStringList columnNames(const JetTable& table) {
-    QStringList names;
-    for (const JetColumn& column : table.columns())
-        names += column.name;
-    return names;
-}
-
 std::vector<JetType> columnTypes(const JetTable& table) {
     std::vector<JetType> types;
     for (const JetColumn& column : table.columns())
         types.push_back(column.type);
     return types;
-}
-
-QStringList list(std::initializer_list<const char*> texts) {
-    QStringList all;
-    for (const char* text : texts)
-        all += QString::fromUtf8(text);
-    return all;
 }
 
 // The name of person i in the large file.

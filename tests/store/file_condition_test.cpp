@@ -36,6 +36,8 @@ TEST(ObjectionTo, NamesWhatMakesAFileUselessForEitherAccess) {
                   withPath("53 File not found: there is no file of this name, "));
         EXPECT_EQ(objectionText({.isFolder = true}, access),
                   withPath("75 Path/File access error: it is a folder, "));
+        EXPECT_EQ(objectionText({.isOther = true, .isEmpty = true}, access),
+                  withPath("75 Path/File access error: it is no file, "));
         EXPECT_EQ(objectionText({.isEmpty = true}, access),
                   withPath("321 Invalid file format: the file is empty, "));
     }
@@ -65,8 +67,16 @@ TEST(ConditionOf, TellsFilesFoldersAndNothing) {
     file.close();
     const FileCondition condition = conditionOf(file.fileName(), Access::ReadWrite);
     EXPECT_TRUE(condition.exists && condition.isWritable && condition.canHaveJournal);
-    EXPECT_FALSE(condition.isFolder || condition.isEmpty);
+    EXPECT_FALSE(condition.isFolder || condition.isOther || condition.isEmpty);
 }
+
+#ifdef Q_OS_UNIX
+TEST(ConditionOf, TellsDevices) {
+    EXPECT_TRUE(conditionOf(QStringLiteral("/dev/null"), Access::Read).isOther);
+    EXPECT_FALSE(conditionOf(QStringLiteral("/dev"), Access::Read).isOther);
+    EXPECT_FALSE(conditionOf(QStringLiteral("/dev/none"), Access::Read).isOther);
+}
+#endif
 
 TEST(ConditionOf, TellsFilesThatCannotBeWritten) {
     QTemporaryDir directory;

@@ -17,10 +17,10 @@ JetPages::JetPages(std::unique_ptr<QIODevice> device, QString path)
 }
 
 QByteArray JetPages::page(std::uint32_t number, JetPageType type) {
+    if (number >= bytes_ / format_.pageSize)
+        throw JetDamage(QStringLiteral("page %1 lies beyond its end").arg(number));
     KeptPage& kept = kept_[number % kKeptPages];
     if (kept.number != number) {
-        if (number >= bytes_ / format_.pageSize)
-            throw JetDamage(QStringLiteral("page %1 lies beyond its end").arg(number));
         kept.bytes = read(qint64{number} * format_.pageSize, format_.pageSize);
         kept.number = number;
     }

@@ -85,8 +85,8 @@ bool contradict(const JetColumn& one, const JetColumn& other) {
         return false;
     if (!one.isFixed)
         return one.variableIndex == other.variableIndex;
-    return one.fixedOffset < other.fixedOffset + other.fixedSize &&
-           other.fixedOffset < one.fixedOffset + one.fixedSize;
+    return std::max(one.fixedOffset, other.fixedOffset) <
+           std::min(one.fixedOffset + one.fixedSize, other.fixedOffset + other.fixedSize);
 }
 
 void check(const TableDefinition& table) {

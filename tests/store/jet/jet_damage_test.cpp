@@ -316,7 +316,7 @@ TEST_P(DamagedJet, IsReadOrRefusedHoweverItIsDamaged) {
 
 TEST_P(DamagedJet, IsReadOrRefusedHoweverASampleIsDamaged) {
     SKIP_WITHOUT_SAMPLES();
-    readDamaged(fileBytes(samplePath(is4() ? "Ondara2-jet4.mdb" : "Names-jet3.mdb")));
+    readDamaged(fileBytes(samplePath(is4() ? "Names-jet4.mdb" : "Names-jet3.mdb")));
 }
 
 TEST_P(DamagedJet, IsReadOrRefusedInBytesOfAnyKind) {

@@ -102,6 +102,12 @@ REPORTS = [
 ]
 REPORTED_PEOPLE = 1_000
 
+# Old databases of 100,000 people: an aim is so many milliseconds for a megabyte.
+OLD_DATABASES = [
+    ('Jet 3 read, a megabyte', 'readJet3', 10),
+    ('Jet 4 read, a megabyte', 'readJet4', 10),
+]
+
 
 class Start:
     """One start of a program, which tells by first_paint.cpp what it has painted.
@@ -169,6 +175,14 @@ def measure_routines(folder, chosen):
             for run in json.loads(report)['benchmarks'] if run['aggregate_name'] == 'median'}
 
 
+def measure_old_databases(program):
+    """The time that each takes for a megabyte, in milliseconds."""
+    report = subprocess.run([program, '--benchmark_format=json'], check=True,
+                            stdout=subprocess.PIPE, text=True).stdout
+    return {run['run_name'].split('/')[0]: 1e9 / run['bytes_per_second']
+            for run in json.loads(report)['benchmarks']}
+
+
 def verdict(value, aim, unit):
     if aim is None:
         return ''
@@ -224,6 +238,13 @@ def print_reports(times):
                   verdict(times[routine], aim, 'ms'))
 
 
+def print_old_databases(times):
+    print_row('old databases', '', 'Ondara', '', '', 'aim')
+    for what, routine, aim in OLD_DATABASES:
+        print_row(what, '', f'{times[routine]:.3f} ms', '', '',
+                  verdict(times[routine], aim, 'ms'))
+
+
 def print_growth(routines):
     print_row('growth, per n log n', 'people', 'Ondara', 'floor', '', 'aim')
     few, many = 1_000, 100_000
@@ -261,6 +282,8 @@ def main():
     print_events(searches)
     print()
     print_reports(reported)
+    print()
+    print_old_databases(measure_old_databases(programs / 'bench_jet'))
 
 
 if __name__ == '__main__':

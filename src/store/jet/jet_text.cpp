@@ -1,6 +1,8 @@
 // The decoding of jet_text.h.
 #include "store/jet/jet_text.h"
 
+#include <algorithm>
+
 #include "runtime/code_page.h"
 
 namespace {
@@ -10,8 +12,8 @@ constexpr qsizetype kUnit = 2;  // the bytes of a character
 
 QString textOfBytes(ByteView bytes) {
     QString text(bytes.size(), Qt::Uninitialized);
-    for (qsizetype i = 0; i < bytes.size(); ++i)
-        text[i] = characterOfByte(bytes.numberAt<std::uint8_t>(i));
+    std::transform(bytes.data(), bytes.data() + bytes.size(), text.begin(),
+                   [](char byte) { return characterOfByte(static_cast<std::uint8_t>(byte)); });
     return text;
 }
 
@@ -19,8 +21,11 @@ QString textOfUnits(ByteView bytes) {
     if (bytes.size() % kUnit != 0)
         throw JetDamage(QStringLiteral("a text ends within a character"));
     QString text(bytes.size() / kUnit, Qt::Uninitialized);
-    for (qsizetype i = 0; i < text.size(); ++i)
-        text[i] = QChar(bytes.numberAt<char16_t>(i * kUnit));
+    qsizetype place = 0;
+    for (QChar& character : text) {
+        character = QChar(bytes.numberAt<char16_t>(place));
+        place += kUnit;
+    }
     return text;
 }
 

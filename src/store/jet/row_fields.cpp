@@ -1,6 +1,8 @@
 // The taking apart of rows.
 #include "store/jet/row_fields.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int kBits = 8;

@@ -25,7 +25,7 @@ class RowFields {
   private:
     static constexpr int kMostFields = 255;
 
-    void readOffsets(qsizetype end, const JetFormat& format);
+    void readOffsets(qsizetype place, const JetFormat& format);
     void addJumps(qsizetype end, qsizetype jumps);
 
     ByteView row_;

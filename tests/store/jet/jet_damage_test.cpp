@@ -216,7 +216,7 @@ TEST_P(DamagedJet, HasNoRowThatMovesInACircle) {
 
 TEST_P(DamagedJet, HasNoMemoThatRunsInACircle) {
     BuiltTable table = builtPeople();
-    table.memoPiece = 100;
+    table.memoPiece = 40;
     jet_ = builtJet(GetParam(), {table});
     const std::uint32_t page = places().longValues.front();
     // The last piece of the first memo leads nowhere, and its second to last to it.
@@ -283,9 +283,9 @@ TEST_P(DamagedJet, OfManyRowsTakesNoLongerThanOneThatIsWhole) {
 TEST_P(DamagedJet, GivesNoMoreThanItHolds) {
     BuiltTable table = builtPeople();
     table.rows.clear();
-    for (int i = 0; i < 5000; ++i)
+    for (int i = 0; i < 1000; ++i)
         table.rows.push_back({{i, Value(), Value(), Value(false), longText(70)}});
-    table.rows.push_back({{5000, Value(), Value(), Value(false), longText(100'000)}});
+    table.rows.push_back({{1000, Value(), Value(), Value(false), longText(30'000)}});
     table.memoPiece = 4;
     table.hasLargeMap = true;
     jet_ = builtJet(GetParam(), {table});

@@ -60,8 +60,8 @@ inline BuiltTable builtPeople() {
                      {{2, text(""), -1.25, Value(false), text("")}, BuiltRow::Moved},
                      {{3, text("Gone"), 1.0, Value(true), text("Deleted.")}, BuiltRow::Deleted},
                      {{4, Value(), Value(), Value(false), Value()}},
-                     {{5, text("Éloïse €"), 45657.5, Value(true), longText(700)}},
-                     {{6, text("Long"), 1.0, Value(false), longText(6000)}, BuiltRow::MovedTwice},
+                     {{5, text("Éloïse €"), 45657.5, Value(true), longText(100)}},
+                     {{6, text("Long"), 1.0, Value(false), longText(2500)}, BuiltRow::MovedTwice},
                      {{7, text("Gone"), 1.0, Value(false), Value()}, BuiltRow::MovedAndDeleted},
                      {{8, text("Last"), 2958465.0, Value(true), text("x")}}}};
 }

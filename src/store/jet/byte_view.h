@@ -17,7 +17,7 @@ class ByteView {
     explicit ByteView(const QByteArray& bytes) : data_(bytes.constData()), size_(bytes.size()) {}
 
     const char* data() const { return data_; }
-    qsizetype size() const { return size_; }
+    qsizetype length() const { return size_; }
 
     template <class Number>
     Number numberAt(qsizetype place) const {

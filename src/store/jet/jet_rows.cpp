@@ -118,7 +118,7 @@ void JetRows::readMovedRow(ByteView pointer) {
 }
 
 void JetRows::readValues(ByteView row) {
-    allowance_.take(row.size());
+    allowance_.take(row.length());
     const RowFields fields(row, table_, pages_->format());
     for (std::size_t i = 0; i < columns_.size(); ++i)
         values_[i] = valueOf(columns_[i], fields);

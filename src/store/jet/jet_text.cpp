@@ -11,16 +11,16 @@ constexpr std::uint16_t kCompressed = 0xFEFF;
 constexpr qsizetype kUnit = 2;  // the bytes of a character
 
 QString textOfBytes(ByteView bytes) {
-    QString text(bytes.size(), Qt::Uninitialized);
-    std::transform(bytes.data(), bytes.data() + bytes.size(), text.begin(),
+    QString text(bytes.length(), Qt::Uninitialized);
+    std::transform(bytes.data(), bytes.data() + bytes.length(), text.begin(),
                    [](char byte) { return characterOfByte(static_cast<std::uint8_t>(byte)); });
     return text;
 }
 
 QString textOfUnits(ByteView bytes) {
-    if (bytes.size() % kUnit != 0)
+    if (bytes.length() % kUnit != 0)
         throw JetDamage(QStringLiteral("a text ends within a character"));
-    QString text(bytes.size() / kUnit, Qt::Uninitialized);
+    QString text(bytes.length() / kUnit, Qt::Uninitialized);
     qsizetype place = 0;
     for (QChar& character : text) {
         character = QChar(bytes.numberAt<char16_t>(place));
@@ -32,9 +32,9 @@ QString textOfUnits(ByteView bytes) {
 // A character is one byte until a zero changes that, and two until the next.
 QString textOfCompressed(ByteView bytes) {
     QString text;
-    text.reserve(bytes.size());
+    text.reserve(bytes.length());
     bool isCompressed = true;
-    for (qsizetype place = 0; place < bytes.size();) {
+    for (qsizetype place = 0; place < bytes.length();) {
         const auto byte = bytes.numberAt<std::uint8_t>(place);
         if (byte == 0) {
             isCompressed = !isCompressed;
@@ -53,7 +53,7 @@ QString textOfCompressed(ByteView bytes) {
 }  // namespace
 
 QString jetText(ByteView bytes, const JetFormat& format) {
-    const bool isCompressed = format.version == kJet4.version && bytes.size() >= kUnit &&
+    const bool isCompressed = format.version == kJet4.version && bytes.length() >= kUnit &&
                               bytes.numberAt<std::uint16_t>(0) == kCompressed;
     return isCompressed ? textOfCompressed(bytes.from(kUnit)) : jetName(bytes, format);
 }

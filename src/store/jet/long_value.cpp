@@ -40,7 +40,7 @@ QByteArray pieceAt(std::uint32_t pointer, JetPages& pages, ReadAllowance& allowa
         page.hasMoved(place.row))
         throw JetDamage(QStringLiteral("a long value is not where it should be"));
     const ByteView piece = page.rowAt(place.row);
-    allowance.take(piece.size());
+    allowance.take(piece.length());
     return piece.copy();
 }
 
@@ -67,7 +67,7 @@ QByteArray bytesOf(ByteView field, std::uint32_t flags, JetPages& pages, ReadAll
 }  // namespace
 
 QByteArray longValue(ByteView field, JetPages& pages, ReadAllowance& allowance) {
-    if (field.size() == 0)
+    if (field.length() == 0)
         return {};
     const auto header = field.numberAt<std::uint32_t>(0);
     QByteArray bytes = bytesOf(field, header, pages, allowance);

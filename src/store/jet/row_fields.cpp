@@ -14,7 +14,7 @@ RowFields::RowFields(ByteView row, const TableDefinition& table, const JetFormat
     : row_(row), countSize_(format.countSize), columns_(row.numberAt(0, format.countSize)) {
     if (columns_ > table.mostColumns)
         throw JetDamage(QStringLiteral("a row has more columns than its table"));
-    mask_ = row_.size() - (columns_ + kBits - 1) / kBits;
+    mask_ = row_.length() - (columns_ + kBits - 1) / kBits;
     variableBegin_ = mask_;
     if (table.hasVariableColumns)
         readOffsets(mask_ - countSize_, format);
@@ -48,7 +48,7 @@ void RowFields::readOffsets(qsizetype place, const JetFormat& format) {
     variableFields_ = row_.numberAt(place, countSize_);
     if (variableFields_ > kMostFields)
         throw JetDamage(QStringLiteral("a row has %1 fields").arg(variableFields_));
-    const qsizetype jumps = format.version == kJet3.version ? (row_.size() - 1) / kJump : 0;
+    const qsizetype jumps = format.version == kJet3.version ? (row_.length() - 1) / kJump : 0;
     const qsizetype end = place - jumps;
     const qsizetype begin = end - qsizetype{countSize_} * (variableFields_ + 1);
     for (int i = 0; i <= variableFields_; ++i)

@@ -17,7 +17,7 @@ constexpr qsizetype kPointerSize = 4;
 
 // The number of the first bit that is set, from that one on.
 std::optional<std::uint32_t> firstBitFrom(ByteView bits, std::uint64_t bit) {
-    for (auto place = static_cast<qsizetype>(bit / kBits); place < bits.size(); ++place) {
+    for (auto place = static_cast<qsizetype>(bit / kBits); place < bits.length(); ++place) {
         unsigned byte = bits.numberAt<std::uint8_t>(place);
         if (place == static_cast<qsizetype>(bit / kBits))
             byte &= 0xFFU << (bit % kBits);
@@ -57,7 +57,7 @@ std::optional<std::uint32_t> UsageMap::firstInList(JetPages& pages, std::uint32_
     const auto pagesEach =
         static_cast<std::uint64_t>((pages.format().pageSize - kBitsOfPage) * kBits);
     std::uint64_t bit = page % pagesEach;
-    for (auto i = page / pagesEach; (static_cast<qsizetype>(i) + 1) * kPointerSize <= list.size();
+    for (auto i = page / pagesEach; (static_cast<qsizetype>(i) + 1) * kPointerSize <= list.length();
          ++i, bit = 0) {
         const auto mapPage = list.numberAt<std::uint32_t>(static_cast<qsizetype>(i) * kPointerSize);
         if (mapPage == 0)

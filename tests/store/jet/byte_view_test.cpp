@@ -36,11 +36,11 @@ TEST(ByteView, ReadsUpToItsEndAndNoFurther) {
 
 TEST(ByteView, GivesItsPartsWithBoundsOfTheirOwn) {
     const ByteView part = ByteView(kBytes).part(1, 2);
-    EXPECT_EQ(part.size(), 2);
+    EXPECT_EQ(part.length(), 2);
     EXPECT_EQ(part.numberAt<std::uint16_t>(0), 0x03FE);
     EXPECT_THROW(part.numberAt<std::uint8_t>(2), JetDamage);
     EXPECT_EQ(ByteView(kBytes).from(11).copy(), QByteArray("\xBF"));
-    EXPECT_EQ(ByteView(kBytes).from(12).size(), 0);
+    EXPECT_EQ(ByteView(kBytes).from(12).length(), 0);
     EXPECT_THROW(ByteView(kBytes).from(13), JetDamage);
     EXPECT_THROW(ByteView(kBytes).part(0, 13), JetDamage);
     EXPECT_THROW(ByteView(kBytes).part(2, -1), JetDamage);

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <memory>
 
+#include "store/sql_pieces.h"
+
 namespace {
 
 struct Finalizer {
@@ -27,13 +29,6 @@ StatementHandle prepare(SQLite::Database& database, const std::string& statement
 
 std::string textOrNone(const char* text) {
     return text ? text : std::string();
-}
-
-std::string quoted(const std::string& name) {
-    std::string text = "\"";
-    for (const char letter : name)
-        text += letter == '"' ? std::string("\"\"") : std::string(1, letter);
-    return text + '"';
 }
 
 // The column that is the table's whole primary key and numbered by SQLite; "" if there is none.

@@ -7,6 +7,8 @@
 #include "runtime/text_order.h"
 #include "store/connection_string.h"
 #include "store/file_condition.h"
+#include "store/jet/jet_file.h"
+#include "store/jet_database.h"
 #include "store/sqlite_errors.h"
 
 namespace {
@@ -40,9 +42,13 @@ int openFlags(Access access) {
            SQLITE_OPEN_NOMUTEX;
 }
 
+std::unique_ptr<SQLite::Database> openStore(const QString& path, Access access) {
+    return std::make_unique<SQLite::Database>(path.toStdString(), openFlags(access),
+                                              kBusyTimeoutMilliseconds);
+}
+
 std::unique_ptr<SQLite::Database> openDatabase(const QString& path, Access access) {
-    auto database = std::make_unique<SQLite::Database>(path.toStdString(), openFlags(access),
-                                                       kBusyTimeoutMilliseconds);
+    auto database = isJetFile(path) ? readJetDatabase(path) : openStore(path, access);
     enforceForeignKeys(*database);
     replaceNocase(*database);
     // Reads the schema as well, so a file that is no database is refused here.

@@ -23,7 +23,8 @@ class Connection {
   public:
     // Opens the file named by "Data Source=" in the connection string. A backslash separates
     // folders on every system; the file's name matches without regard to case. A file that does
-    // not exist is not made.
+    // not exist is not made. A Jet file, of the time before SQLite, is read as a whole and can
+    // never be changed.
     explicit Connection(const QString& connectionString, Access access = Access::ReadWrite);
     ~Connection();
     Connection(Connection&&) noexcept;

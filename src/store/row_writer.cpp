@@ -7,32 +7,7 @@
 #include <functional>
 
 #include "runtime/errors.h"
-
-namespace {
-
-// "a, b, c" of anything that `piece` turns into text.
-template <class Items, class Piece>
-std::string joined(const Items& items, const char* separator, Piece piece) {
-    std::string text;
-    for (const auto& item : items)
-        text += (text.empty() ? "" : separator) + piece(item);
-    return text;
-}
-
-void bindValue(SQLite::Statement& statement, int place, const Value& value) {
-    struct Binder {
-        SQLite::Statement& statement;
-        int place;
-
-        void operator()(std::monostate) const { statement.bind(place); }
-        void operator()(std::int64_t number) const { statement.bind(place, number); }
-        void operator()(double number) const { statement.bind(place, number); }
-        void operator()(const QString& text) const { statement.bind(place, text.toStdString()); }
-    };
-    std::visit(Binder{statement, place}, value.content());
-}
-
-}  // namespace
+#include "store/sql_pieces.h"
 
 RowWriter::RowWriter(SQLite::Database& database, BaseTable base, RowTable& table)
     : database_(database), table_(table), base_(std::move(base)) {

@@ -44,6 +44,7 @@ constexpr NumberedText kTexts[] = {
     {ErrorNumber::ObjectClosed, "Operation is not allowed when the object is closed."},
     {ErrorNumber::IntegrityViolation,
      "Data value conflicts with the integrity constraints of the field"},
+    {ErrorNumber::Cancelled, "Cancel was selected."},
     {ErrorNumber::IndexOutOfBounds, "Index out of bounds"},
     {ErrorNumber::RowNotLocated,
      "Row cannot be located for updating. Some values may have been changed since it was last "

@@ -29,11 +29,13 @@ enum class ErrorNumber : int {
     ItemNotFound = 3265,
     ObjectClosed = 3704,
     IntegrityViolation = 3719,
+    Cancelled = 32755,
     IndexOutOfBounds = 35600,
     RowNotLocated = -2147217864,
 };
 
-// The classical text of an error. Only texts of the record sets may end with a full stop.
+// The classical text of an error. Only texts of the record sets and of the dialogs may end
+// with a full stop.
 QString errorText(ErrorNumber number);
 
 // An error of the world: a file that is gone, a value that is missing, a number out of range. It

@@ -7,6 +7,7 @@
 
 #include <QObject>
 #include <functional>
+#include <optional>
 #include <utility>
 
 #include "runtime/errors.h"
@@ -42,27 +43,33 @@ void onEvent(Sender* sender, Signal signal, Receiver* receiver,
     });
 }
 
-// The one error trap: runs the steps, and ends a run-time error in a message box over `owner` with
-// the error's description, without a full stop of its own, and the request to report it. What had
-// been shown by then stays. Returns whether an error was trapped.
+// Runs the steps and returns the run-time error that ended them, if one did: for a routine that has
+// words of its own for it.
 template <class Steps>
-bool trapped(QObject* owner, Steps&& steps) {
+std::optional<RuntimeError> errorEnding(Steps&& steps) {
     try {
         std::invoke(std::forward<Steps>(steps));
-        return false;
+        return std::nullopt;
     } catch (...) {
-        event_detail::report(owner, event_detail::currentError());
-        return true;
+        return event_detail::currentError();
     }
+}
+
+// The one error trap: runs the steps, and ends a run-time error in a message box over `owner` with
+// the error's description, without a full stop of its own, and the request to report it. What had
+// been shown by then stays. An error of the number `silent` ends them without a box. Returns
+// whether an error was trapped.
+template <class Steps>
+bool trapped(QObject* owner, Steps&& steps, std::optional<ErrorNumber> silent = std::nullopt) {
+    const std::optional<RuntimeError> error = errorEnding(std::forward<Steps>(steps));
+    if (error && !(silent && error->number == static_cast<int>(*silent)))
+        event_detail::report(owner, *error);
+    return error.has_value();
 }
 
 // Runs one statement of a routine that ignores errors: a run-time error of it is forgotten, and the
 // next statement runs.
 template <class Statement>
 void resumingNext(Statement&& statement) {
-    try {
-        std::invoke(std::forward<Statement>(statement));
-    } catch (...) {
-        event_detail::currentError();
-    }
+    errorEnding(std::forward<Statement>(statement));
 }

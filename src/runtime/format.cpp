@@ -2,6 +2,7 @@
 #include "runtime/format.h"
 
 #include "cycles/calendar.h"
+#include "runtime/errors.h"
 #include "runtime/host.h"
 #include "runtime/numbers.h"
 
@@ -41,6 +42,21 @@ qsizetype runLength(QStringView pattern, qsizetype start) {
     return end - start;
 }
 
+// The month of this short name; 0 if there is none.
+Integer monthOf(QStringView name, const QLocale& names) {
+    Integer month = 12;
+    while (month > 0 && names.monthName(month, QLocale::ShortFormat) != name)
+        --month;
+    return month;
+}
+
+bool isDate(Long year, Long month, Long day) {
+    constexpr Long kFirstYear = modCycles::Year(Date(Date::kEarliestDay));
+    constexpr Long kLastYear = modCycles::Year(Date(Date::kLatestDay));
+    return year >= kFirstYear && year <= kLastYear && month > 0 && day > 0 &&
+           day <= modCycles::Day(modCycles::DateSerial(year, month + 1, 0));
+}
+
 }  // namespace
 
 QString formatDate(Date date, const QString& pattern, const QLocale& names) {
@@ -68,4 +84,22 @@ QString formatDate(Date date, const QString& pattern, const QLocale& names) {
 
 QString Format(Date date, const QString& pattern) {
     return formatDate(date, pattern, host().locale());
+}
+
+Date readDate(const QString& text, const QLocale& names) {
+    const qsizetype beforeMonth = text.indexOf(u' ');
+    const qsizetype behindMonth = text.lastIndexOf(u' ');
+    if (beforeMonth == behindMonth)
+        throw RuntimeError(ErrorNumber::TypeMismatch);
+    const Long day = wholeNumber(text.left(beforeMonth));
+    const Long month =
+        monthOf(QStringView(text).sliced(beforeMonth, behindMonth - beforeMonth).sliced(1), names);
+    const Long year = wholeNumber(text.mid(behindMonth + 1));
+    if (!isDate(year, month, day))
+        throw RuntimeError(ErrorNumber::TypeMismatch);
+    return modCycles::DateSerial(year, month, day);
+}
+
+Date readDate(const QString& text) {
+    return readDate(text, host().locale());
 }

@@ -1,4 +1,4 @@
-// Dates as text by a fixed pattern.
+// Dates as text by a fixed pattern, and read back.
 #pragma once
 
 #include <QLocale>
@@ -13,3 +13,12 @@ QString Format(Date date, const QString& pattern);
 
 // The same with the names of the given locale.
 QString formatDate(Date date, const QString& pattern, const QLocale& names);
+
+// The form of a date that is kept as a text: "1 Mar 2000".
+inline const QString kDateAsText = QStringLiteral("d mmm yyyy");
+
+// The date that Format has written in that form. Raises 13 (Type mismatch) for any other text.
+Date readDate(const QString& text);
+
+// The same with the names of the given locale.
+Date readDate(const QString& text, const QLocale& names);

@@ -42,6 +42,14 @@ QString numberText(Long value) {
     return QString::number(value);
 }
 
+Long wholeNumber(const QString& digits) {
+    bool isWhole = false;
+    const Long number = digits.toInt(&isWhole);
+    if (!isWhole)
+        throw RuntimeError(ErrorNumber::TypeMismatch);
+    return number;
+}
+
 QString percentText(double percent) {
     return numberText(Round(percent)) + QLatin1Char('%');
 }

@@ -15,5 +15,9 @@ Integer RoundToInteger(double value);
 // A whole number as text: decimal digits with no separators, and never "-0".
 QString numberText(Long value);
 
+// The whole number that a text is in decimal digits. Raises 13 for any other text, and for a number
+// outside 32 bits.
+Long wholeNumber(const QString& digits);
+
 // A value of per cent for display: rounded, with the sign "%" behind it.
 QString percentText(double percent);

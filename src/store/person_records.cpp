@@ -22,7 +22,7 @@ class Reader {
             throw RuntimeError(ErrorNumber::TypeMismatch);
         const QString text = upTo(kQuote);
         passOverLine();
-        return {longOf(number), text};
+        return {wholeNumber(number), text};
     }
 
   private:
@@ -39,14 +39,6 @@ class Reader {
     void passOverLine() {
         const qsizetype end = lines_.indexOf(u'\n', place_);
         place_ = end < 0 ? lines_.size() : end + 1;
-    }
-
-    static Long longOf(const QString& digits) {
-        bool isLong = false;
-        const Long number = digits.toInt(&isLong);
-        if (!isLong)
-            throw RuntimeError(ErrorNumber::TypeMismatch);
-        return number;
     }
 
     const QString& lines_;

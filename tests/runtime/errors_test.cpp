@@ -39,6 +39,7 @@ const std::map<int, std::string> kClassicalTexts{
      "Item cannot be found in the collection corresponding to the requested name or ordinal."},
     {3704, "Operation is not allowed when the object is closed."},
     {3719, "Data value conflicts with the integrity constraints of the field"},
+    {32755, "Cancel was selected."},
     {35600, "Index out of bounds"},
     {-2147217864,
      "Row cannot be located for updating. Some values may have been changed since it was last "

@@ -182,6 +182,21 @@ TEST_F(Trap, KeepsAnErrorFromTheBoundaryAroundIt) {
     EXPECT_EQ(host_.exitCode(), std::nullopt);
 }
 
+TEST_F(Trap, EndsAnErrorOfTheNumberThatIsExpectedWithoutABox) {
+    const auto cancel = [] { raise(ErrorNumber::Cancelled); };
+    EXPECT_TRUE(trapped(nullptr, cancel, ErrorNumber::Cancelled));
+    EXPECT_TRUE(host_.messages().empty());
+    expectReport(QStringLiteral("Cancel was selected"));
+    EXPECT_TRUE(trapped(nullptr, cancel, ErrorNumber::DiskFull));
+}
+
+TEST_F(Trap, GivesTheErrorToWhoHasWordsOfItsOwn) {
+    EXPECT_EQ(errorEnding([] { raise(ErrorNumber::DiskFull); })->number, 61);
+    EXPECT_EQ(errorEnding([] { DateSerial(9999, 12, 31) + 1; })->number, 6);
+    EXPECT_FALSE(errorEnding([] {}));
+    EXPECT_TRUE(host_.messages().empty());
+}
+
 TEST_F(Event, GoesOnWithTheNextStatementWhereErrorsAreIgnored) {
     QStringList ran;
     runEvent([&] {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "cycles/calendar.h"
+#include "support/errors.h"
 #include "support/recording_host.h"
 
 using modCycles::DateSerial;
@@ -87,4 +88,36 @@ TEST(Format, AsksTheHostForTheLocale) {
     RecordingHost host;
     EXPECT_EQ(Format(kFirstOfMarch, QStringLiteral("dddd, d MMMM yyyy")),
               QStringLiteral("Wednesday, 1 March 2000"));
+}
+
+TEST(ReadDate, ReadsWhatFormatHasWrittenInEveryLanguage) {
+    for (const QLocale& names : QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript,
+                                                         QLocale::AnyTerritory)) {
+        for (Long month = 1; month <= 12; ++month) {
+            const Date date = DateSerial(1972, month, 2 * month);
+            EXPECT_EQ(readDate(formatDate(date, kDateAsText, names), names), date)
+                << names.name().toStdString();
+        }
+    }
+}
+
+TEST(ReadDate, ReadsTheFirstDayAndTheLast) {
+    const QLocale names = RecordingHost().locale();
+    EXPECT_EQ(readDate(QStringLiteral("1 Jan 0100"), names), Date(Date::kEarliestDay));
+    EXPECT_EQ(readDate(QStringLiteral("31 Dec 9999"), names), Date(Date::kLatestDay));
+    EXPECT_EQ(readDate(QStringLiteral("29 Feb 2000"), names), DateSerial(2000, 2, 29));
+}
+
+TEST(ReadDate, RefusesEveryOtherText) {
+    const RecordingHost host;
+    for (const char* text :
+         {"", " ", "1", "1 Mar", "Mar 2000", "1  2000", "1 März 2000", "1 Mar 2000 ", "x Mar 2000",
+          "1 Mar x", "0 Mar 2000", "30 Feb 2000", "29 Feb 2001", "-1 Mar 2000", "1 Mar 0099",
+          "1 Mar 10000", "1 Mar -2000", "1 Mar 99999999999", "1 mar 2000x"})
+        EXPECT_EQ(errorOf([&] { readDate(QString::fromUtf8(text)); }), 13) << text;
+}
+
+TEST(ReadDate, AsksTheHostForTheLocale) {
+    const RecordingHost host;
+    EXPECT_EQ(readDate(QStringLiteral("1 Mar 2000")), kFirstOfMarch);
 }

@@ -99,3 +99,14 @@ TEST(RoundToInteger, RoundsHalvesOfPercentagesToTheEvenNumber) {
     EXPECT_EQ(RoundToInteger(49.5), 50);
     EXPECT_EQ(RoundToInteger(50.5), 50);
 }
+
+TEST(WholeNumber, IsReadFromItsDigits) {
+    EXPECT_EQ(wholeNumber(QStringLiteral("0")), 0);
+    EXPECT_EQ(wholeNumber(QStringLiteral("10007")), 10007);
+    EXPECT_EQ(wholeNumber(QStringLiteral("-2147483648")), std::numeric_limits<Long>::min());
+}
+
+TEST(WholeNumber, IsNothingElse) {
+    for (const char* text : {"", "?", "1.5", "1,000", "12a", "2147483648"})
+        EXPECT_EQ(errorOf([&] { wholeNumber(QString::fromLatin1(text)); }), 13) << text;
+}

@@ -76,6 +76,13 @@ QWidget* windowOf(QObject* owner) {
     return window;
 }
 
+QStringList nameFilters(const std::vector<FileFilter>& filters) {
+    QStringList names;
+    for (const FileFilter& filter : filters)
+        names += QStringLiteral("%1 (%2)").arg(filter.caption, filter.pattern);
+    return names;
+}
+
 // How long a window system may take to show a window. One that is slower, or hides the window
 // behind others, is not waited for.
 constexpr std::chrono::milliseconds kPatience{200};
@@ -120,18 +127,23 @@ Answer DesktopHost::showMessage(const Message& message) {
     return answerOf(box.exec());
 }
 
+// Whether the file is to exist is left to whoever asks. Qt's dialog reads the patterns out of its
+// captions, and shows them without.
 std::optional<ChosenFile> DesktopHost::chooseFile(const FileQuestion& question) {
     QFileDialog dialog(windowOf(question.owner), question.title, question.folder);
     dialog.setAcceptMode(question.purpose == FilePurpose::Save ? QFileDialog::AcceptSave
                                                                : QFileDialog::AcceptOpen);
-    dialog.setFileMode(question.purpose == FilePurpose::Save ? QFileDialog::AnyFile
-                                                             : QFileDialog::ExistingFile);
-    dialog.setNameFilters(question.filters);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    const QStringList filters = nameFilters(question.filters);
+    dialog.setNameFilters(filters);
+    if (!question.fileName.isEmpty())
+        dialog.selectFile(question.fileName);
     dialog.setDefaultSuffix(question.defaultExtension);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !question.asksBeforeOverwriting);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    const qsizetype filter = question.filters.indexOf(dialog.selectedNameFilter());
+    const qsizetype filter = filters.indexOf(dialog.selectedNameFilter());
     return ChosenFile{.path = dialog.selectedFiles().constFirst(),
                       .filterIndex = static_cast<int>(filter) + 1};
 }

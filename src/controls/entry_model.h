@@ -20,9 +20,17 @@ class EntryModel final : public QAbstractListModel {
     void remove(int index);
     void changeItemData(int index, Long value) { entries_.setItemData(index, value); }
 
+    // Whether the view shows a check box before each entry.
+    void setCheckBoxes(bool shown) { hasCheckBoxes_ = shown; }
+    void setSelected(int index, bool selected);
+    void setAllSelected(bool selected);
+
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
 
   private:
     ListEntries entries_;
+    bool hasCheckBoxes_ = false;
 };

@@ -2,7 +2,8 @@
 #pragma once
 
 #include <QObject>
-#include <QStringList>
+#include <QString>
+#include <vector>
 
 #include "cycles/integers.h"
 #include "runtime/file_question.h"
@@ -10,7 +11,7 @@
 class QWidget;
 
 // What was answered last stays: a dialog that the user cancels changes nothing. At first no filter
-// has been chosen and there is no name.
+// has been chosen and there is no name. A file of the name need not exist.
 class FileDialog final : public QObject {
     Q_OBJECT
 
@@ -23,13 +24,18 @@ class FileDialog final : public QObject {
     void setDialogTitle(const QString& title) { title_ = title; }
     void setInitDir(const QString& folder) { folder_ = folder; }
 
-    // Captions and patterns in turn: "Rich Text (*.rtf)|*.rtf|All files (*.*)|*.*". The dialog goes
-    // by the patterns in the captions; those behind them are passed over.
+    // The name that the user is offered whenever the dialog is shown.
+    void setProposedName(const QString& name) { proposedName_ = name; }
+
+    // Captions and patterns in turn: "Rich Text (*.rtf)|*.rtf|All files (*.*)|*.*".
     void setFilter(const QString& filter);
 
     void setDefaultExt(const QString& extension) { defaultExtension_ = extension; }
 
     void setFlags(Long flags) { flags_ = flags; }
+
+    // Whether a dialog that the user cancels raises 32755 (Cancel was selected).
+    void setCancelError(bool raises) { cancelError_ = raises; }
 
     // The filter that was chosen, counted from 1; 0 for none.
     int FilterIndex() const { return filterIndex_; }
@@ -43,9 +49,11 @@ class FileDialog final : public QObject {
 
     QString title_;
     QString folder_;
-    QStringList filters_;
+    QString proposedName_;
+    std::vector<FileFilter> filters_;
     QString defaultExtension_;
     Long flags_ = 0;
+    bool cancelError_ = false;
     int filterIndex_ = 0;
     QString fileName_;
 };

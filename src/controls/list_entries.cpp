@@ -72,10 +72,10 @@ void ListEntries::remove(int index) {
     newIndex_ = -1;
 }
 
-const ListEntry& ListEntries::entry(int index) const {
+std::size_t ListEntries::placeAt(int index) const {
     if (!contains(index))
         throw RuntimeError(ErrorNumber::InvalidPropertyArrayIndex);
-    return entries_[static_cast<std::size_t>(index)];
+    return static_cast<std::size_t>(index);
 }
 
 const QString& ListEntries::text(int index) const {
@@ -87,9 +87,15 @@ Long ListEntries::itemData(int index) const {
 }
 
 void ListEntries::setItemData(int index, Long value) {
-    if (!contains(index))
-        throw RuntimeError(ErrorNumber::InvalidPropertyArrayIndex);
-    entries_[static_cast<std::size_t>(index)].itemData = value;
+    entry(index).itemData = value;
+}
+
+bool ListEntries::isSelected(int index) const {
+    return entry(index).selected;
+}
+
+void ListEntries::setSelected(int index, bool selected) {
+    entry(index).selected = selected;
 }
 
 int ListEntries::find(const QString& text) const {

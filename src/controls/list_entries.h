@@ -39,10 +39,12 @@ class ListEntries {
     // another way.
     int newIndex() const { return newIndex_; }
 
-    // These three raise 381 if there is no such entry.
+    // These raise 381 if there is no such entry.
     const QString& text(int index) const;
     Long itemData(int index) const;
     void setItemData(int index, Long value);
+    bool isSelected(int index) const;
+    void setSelected(int index, bool selected);
 
     const std::vector<ListEntry>& all() const { return entries_; }
 
@@ -53,7 +55,9 @@ class ListEntries {
 
   private:
     void sort();
-    const ListEntry& entry(int index) const;
+    std::size_t placeAt(int index) const;
+    const ListEntry& entry(int index) const { return entries_[placeAt(index)]; }
+    ListEntry& entry(int index) { return entries_[placeAt(index)]; }
 
     std::vector<ListEntry> entries_;
     bool sorted_ = false;

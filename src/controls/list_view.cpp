@@ -66,13 +66,21 @@ ListView::ListView(QWidget* parent) : QTreeView(parent) {
             [this](const QModelIndex& index) { Q_EMIT ItemClick(index.row()); });
 }
 
-// Qt's view would take a double click for Enter as well.
+// Qt's view would take a double click for Enter as well, and the space bar for the box of the first
+// column alone.
 void ListView::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (isEnter && currentIndex().isValid())
         Q_EMIT ItemClick(currentIndex().row());
+    else if (event->key() == Qt::Key_Space && model_.hasCheckBoxes() && currentIndex().isValid())
+        toggle(currentIndex().siblingAtColumn(0));
     else
         QTreeView::keyPressEvent(event);
+}
+
+void ListView::toggle(const QModelIndex& box) {
+    const bool isChecked = box.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    model_.setData(box, isChecked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
 }
 
 void ListView::setColumns(std::vector<ListColumn> columns) {
@@ -81,6 +89,7 @@ void ListView::setColumns(std::vector<ListColumn> columns) {
         const auto& width = model_.columns()[static_cast<std::size_t>(section)].width;
         header()->setSectionResizeMode(section,
                                        width ? QHeaderView::Interactive : QHeaderView::Stretch);
+        header()->setSectionHidden(section, width == 0);
         if (width)
             header()->resizeSection(section, toPixels(*width));
     }
@@ -95,6 +104,25 @@ void ListView::fill(std::vector<ListRow> rows) {
 void ListView::fill(int count, RowMaker makeRow) {
     model_.fill(count, std::move(makeRow));
     beginAtFirstRow();
+}
+
+// The model's index of a row.
+int ListView::placeOf(int index) const {
+    if (index < 1 || index > ListCount())
+        throw RuntimeError(ErrorNumber::IndexOutOfBounds);
+    return index - 1;
+}
+
+const ListRow& ListView::ListItem(int index) const {
+    return model_.row(placeOf(index));
+}
+
+void ListView::setListItem(int index, ListRow row) {
+    model_.change(placeOf(index), std::move(row));
+}
+
+void ListView::Remove(int index) {
+    model_.remove(placeOf(index));
 }
 
 // A screen reader finds a row that is not selected.

@@ -26,6 +26,16 @@ class ListView final : public QTreeView {
 
     void AddRow(ListRow row) { model_.add(std::move(row)); }
 
+    // The rows one by one, counted from 1. All but the count raise 35600 if there is no such row.
+    int ListCount() const { return model_.rowCount(); }
+    const ListRow& ListItem(int index) const;
+    void setListItem(int index, ListRow row);
+    void Remove(int index);
+
+    // Whether there is a check box before each row. A click on it, and the space bar on the row of
+    // the focus, check the row or uncheck it.
+    void setCheckBoxes(bool shown) { model_.setCheckBoxes(shown); }
+
     // The index of the column to sort by, from 0 on; the order; and whether the rows are sorted. A
     // change sorts the rows that are there, as long as Sorted is set. setSortKey raises 380 below
     // 0.
@@ -48,6 +58,8 @@ class ListView final : public QTreeView {
 
   private:
     void beginAtFirstRow();
+    int placeOf(int index) const;
+    void toggle(const QModelIndex& box);
     void setSorting(const ListSorting& sorting);
     void showSorting();
 

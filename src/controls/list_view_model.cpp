@@ -104,6 +104,21 @@ void ListViewModel::add(ListRow row) {
     endInsertRows();
 }
 
+void ListViewModel::change(int index, ListRow row) {
+    rows_[static_cast<std::size_t>(index)] = std::move(row);
+    Q_EMIT dataChanged(this->index(index, 0), this->index(index, columnCount() - 1));
+    if (sorting_.isOn)
+        sortRows();
+}
+
+// Rows are made by the index that they had when they came.
+void ListViewModel::remove(int index) {
+    makeAllRows();
+    beginRemoveRows({}, index, index);
+    rows_.erase(rows_.begin() + index);
+    endRemoveRows();
+}
+
 const ListRow& ListViewModel::rowAt(std::size_t index) const {
     std::optional<ListRow>& row = rows_[index];
     if (!row)
@@ -112,8 +127,11 @@ const ListRow& ListViewModel::rowAt(std::size_t index) const {
 }
 
 void ListViewModel::makeAllRows() {
+    if (!makeRow_)
+        return;
     for (std::size_t index = 0; index < rows_.size(); ++index)
         rowAt(index);
+    makeRow_ = nullptr;
 }
 
 int ListViewModel::rowCount(const QModelIndex& parent) const {
@@ -129,14 +147,34 @@ QVariant ListViewModel::data(const QModelIndex& index, int role) const {
         return {};
     if (role == Qt::TextAlignmentRole)
         return headerData(index.column(), Qt::Horizontal, role);
-    if (role != Qt::DisplayRole && role != Qt::DecorationRole)
+    if (role != Qt::DisplayRole && role != Qt::DecorationRole && role != Qt::CheckStateRole)
         return {};
     const ListRow& row = rowAt(static_cast<std::size_t>(index.row()));
+    if (role == Qt::CheckStateRole)
+        return isCheckBox(index) ? QVariant(row.checked ? Qt::Checked : Qt::Unchecked) : QVariant();
     if (role == Qt::DisplayRole)
         return shownText(row, index.column()).toString();
     if (index.column() == 0 && !row.smallIcon.isEmpty())
         return smallPicture(row.smallIcon);
     return {};
+}
+
+bool ListViewModel::isCheckBox(const QModelIndex& index) const {
+    return hasCheckBoxes_ && index.isValid() && index.column() == 0;
+}
+
+Qt::ItemFlags ListViewModel::flags(const QModelIndex& index) const {
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    return isCheckBox(index) ? flags | Qt::ItemIsUserCheckable : flags;
+}
+
+bool ListViewModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (role != Qt::CheckStateRole || !isCheckBox(index))
+        return false;
+    ListRow changed = row(index.row());
+    changed.checked = value.toInt() == Qt::Checked;
+    change(index.row(), std::move(changed));
+    return true;
 }
 
 QVariant ListViewModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -10,13 +10,14 @@
 
 struct ListColumn {
     QString header;
-    std::optional<int> width = {};  // twips; none: what the other columns leave
+    std::optional<int> width = {};  // twips; none: what the other columns leave; 0: hidden
     Qt::Alignment alignment = Qt::AlignLeft;
 };
 
 struct ListRow {
     QString smallIcon = {};  // the key of the picture before the first text; none if empty
     QStringList texts = {};  // from the first column on; those that are missing are empty
+    bool checked = false;    // its check box, where the rows have such boxes
 };
 
 // Makes the row of an index.
@@ -56,9 +57,22 @@ class ListViewModel final : public QAbstractTableModel {
     // Adds a row: in its place while sorting is on, at the end otherwise.
     void add(ListRow row);
 
+    // A row that is there, and another in its stead; sorting may take that one elsewhere.
+    const ListRow& row(int index) const { return rowAt(static_cast<std::size_t>(index)); }
+    void change(int index, ListRow row);
+
+    // Removes a row that is there.
+    void remove(int index);
+
+    // Whether the view shows a check box before each row.
+    bool hasCheckBoxes() const { return hasCheckBoxes_; }
+    void setCheckBoxes(bool shown) { hasCheckBoxes_ = shown; }
+
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
     QVariant data(const QModelIndex& index, int role) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   private:
@@ -68,9 +82,11 @@ class ListViewModel final : public QAbstractTableModel {
     void sortRows();
     const ListRow& rowAt(std::size_t index) const;
     void makeAllRows();
+    bool isCheckBox(const QModelIndex& index) const;
 
     std::vector<ListColumn> columns_;
     mutable Rows rows_;
     RowMaker makeRow_;
     ListSorting sorting_;
+    bool hasCheckBoxes_ = false;
 };

@@ -14,6 +14,12 @@ QString MultiLineTextBox::Text() const {
     return text;
 }
 
+void MultiLineTextBox::append(const QString& text) {
+    QTextCursor end(document());
+    end.movePosition(QTextCursor::End);
+    end.insertText(text);
+}
+
 void MultiLineTextBox::setLocked(bool locked) {
     setReadOnly(locked);
     viewport()->setBackgroundRole(locked ? QPalette::Button : QPalette::Base);

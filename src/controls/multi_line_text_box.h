@@ -13,6 +13,9 @@ class MultiLineTextBox final : public QPlainTextEdit {
     QString Text() const;
     void setText(const QString& text) { setPlainText(text); }
 
+    // Adds to the end of the text.
+    void append(const QString& text);
+
     // Whether the user is kept from changing the text. A locked box is in the colour of buttons.
     void setLocked(bool locked);
 };

@@ -3,16 +3,26 @@
 
 #include <QObject>
 #include <QString>
-#include <QStringList>
+#include <vector>
 
 enum class FilePurpose { Open, Save };
 
+// A choice of files by their names.
+struct FileFilter {
+    QString caption;
+    QString pattern;  // "*.rtf"; it matches without regard to case
+
+    friend bool operator==(const FileFilter&, const FileFilter&) = default;
+};
+
+// The user may answer the name of a file that does not exist.
 struct FileQuestion {
     FilePurpose purpose = FilePurpose::Open;
     QString title = {};
-    QString folder = {};            // that the user begins in
-    QStringList filters = {};       // "Rich Text (*.rtf)", the first one is chosen at first
-    QString defaultExtension = {};  // of a name that has none, without its full stop
+    QString folder = {};                   // that the user begins in
+    QString fileName = {};                 // that is proposed
+    std::vector<FileFilter> filters = {};  // the first one is chosen at first
+    QString defaultExtension = {};         // of a name that has none, without its full stop
     bool asksBeforeOverwriting = false;
     QObject* owner = nullptr;  // the window that waits for the answer
 };

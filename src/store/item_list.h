@@ -9,7 +9,8 @@
 struct ListEntry {
     QString text;
     Long itemData = 0;
-    bool leads = false;  // stands before all sorted entries, whatever its text
+    bool leads = false;     // stands before all sorted entries, whatever its text
+    bool selected = false;  // its check box, where the list has such boxes
 };
 
 // A list to fill. The controls that show entries implement it.

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPrinterInfo>
@@ -65,7 +66,8 @@ class DesktopHostTest : public testing::Test {
         return {.purpose = FilePurpose::Save,
                 .title = QStringLiteral("Save"),
                 .folder = folder_.path(),
-                .filters = {QStringLiteral("Rich (*.rtf)"), QStringLiteral("All files (*.*)")},
+                .filters = {{QStringLiteral("Rich (*.rtf)"), QStringLiteral("*.rtf")},
+                            {QStringLiteral("Anything"), QStringLiteral("*.*")}},
                 .defaultExtension = QStringLiteral("rtf")};
     }
 
@@ -92,9 +94,12 @@ TEST_F(DesktopHostTest, AsksForTheNameOfAFileToSave) {
         EXPECT_EQ(dialog.windowTitle(), u"Save");
         EXPECT_EQ(dialog.directory(), QDir(folder_.path()));
         EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
-        EXPECT_EQ(dialog.selectedNameFilter(), u"Rich (*.rtf)");
+        EXPECT_EQ(dialog.selectedNameFilter(), u"Rich (*.rtf) (*.rtf)");
+        const auto& filters = child<QComboBox>(dialog, QStringLiteral("fileTypeCombo"));
+        EXPECT_EQ(filters.itemText(0), u"Rich (*.rtf)");
+        EXPECT_EQ(filters.itemText(1), u"Anything");
         EXPECT_TRUE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
-        dialog.selectNameFilter(QStringLiteral("All files (*.*)"));
+        dialog.selectNameFilter(QStringLiteral("Anything (*.*)"));
         dialog.selectFile(QStringLiteral("report"));
     });
     ASSERT_TRUE(file);
@@ -111,13 +116,12 @@ TEST_F(DesktopHostTest, AsksBeforeOverwritingWhereItIsTold) {
     EXPECT_FALSE(file);
 }
 
-TEST_F(DesktopHostTest, AsksForAFileThatIsThereToOpenIt) {
+TEST_F(DesktopHostTest, AsksForAFileToOpen) {
     FileQuestion question = saving();
     question.purpose = FilePurpose::Open;
     makeFile(folder_.filePath(QStringLiteral("old.rtf")), "old");
     const auto file = chosen(question, "accept", [](QFileDialog& dialog) {
         EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
-        EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
         dialog.selectFile(QStringLiteral("old.rtf"));
     });
     ASSERT_TRUE(file);
@@ -129,6 +133,15 @@ TEST_F(DesktopHostTest, FailsForThePrinterWhereThereIsNone) {
     if (!QPrinterInfo::defaultPrinter().isNull())
         GTEST_SKIP() << "There is a printer here.";
     EXPECT_EQ(errorOf([this] { host_.printer(); }), 482);
+}
+
+TEST_F(DesktopHostTest, ProposesANameThatNeedNotBeThatOfAFile) {
+    FileQuestion question = saving();
+    question.purpose = FilePurpose::Open;
+    question.fileName = QStringLiteral("names.mdb");
+    const auto file = chosen(question, "accept", [](const QFileDialog&) {});
+    ASSERT_TRUE(file);
+    EXPECT_EQ(file->path, folder_.filePath(QStringLiteral("names.mdb")));
 }
 
 TEST_F(DesktopHostTest, CopiesABitmapForItselfAndOthers) {

@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+#include "support/errors.h"
 #include "support/printing.h"
 #include "support/recording_host.h"
 
@@ -34,8 +35,10 @@ TEST_F(FileDialogTest, AsksWithItsProperties) {
     EXPECT_EQ(asked().title, u"Save Report ...");
     EXPECT_EQ(asked().folder, u"/home/anna");
     EXPECT_EQ(asked().defaultExtension, u"rtf");
-    EXPECT_EQ(asked().filters, QStringList({QStringLiteral("Rich Text (*.rtf)"),
-                                            QStringLiteral("All files (*.*)")}));
+    EXPECT_EQ(asked().fileName, QString());
+    EXPECT_EQ(asked().filters, (std::vector<FileFilter>{
+                                   {QStringLiteral("Rich Text (*.rtf)"), QStringLiteral("*.rtf")},
+                                   {QStringLiteral("All files (*.*)"), QStringLiteral("*.*")}}));
     EXPECT_EQ(asked().owner, &window_);
     host_.expectFileQuestion(std::nullopt);
     dialog_.ShowOpen();
@@ -68,5 +71,28 @@ TEST_F(FileDialogTest, KeepsTheLastAnswerWhenItIsCancelled) {
     host_.expectFileQuestion(std::nullopt);
     dialog_.ShowSave();
     EXPECT_EQ(dialog_.FilterIndex(), 2);
+    EXPECT_EQ(dialog_.FileName(), kNotes.path);
+}
+
+TEST_F(FileDialogTest, ProposesTheSameNameEveryTime) {
+    dialog_.setProposedName(QStringLiteral("names.mdb"));
+    host_.expectFileQuestion(kNotes);
+    dialog_.ShowOpen();
+    EXPECT_EQ(asked().fileName, u"names.mdb");
+    host_.expectFileQuestion(std::nullopt);
+    dialog_.ShowOpen();
+    EXPECT_EQ(asked().fileName, u"names.mdb");
+    EXPECT_EQ(dialog_.FileName(), kNotes.path);
+}
+
+TEST_F(FileDialogTest, RaisesAnErrorWhenItIsCancelledWhereItIsToldTo) {
+    dialog_.setCancelError(true);
+    host_.expectFileQuestion(std::nullopt);
+    EXPECT_EQ(descriptionOf([this] { dialog_.ShowOpen(); }), u"Cancel was selected.");
+    host_.expectFileQuestion(kNotes);
+    EXPECT_EQ(errorOf([this] { dialog_.ShowOpen(); }), 0);
+    EXPECT_EQ(dialog_.FileName(), kNotes.path);
+    host_.expectFileQuestion(std::nullopt);
+    EXPECT_EQ(errorOf([this] { dialog_.ShowOpen(); }), 32755);
     EXPECT_EQ(dialog_.FileName(), kNotes.path);
 }

@@ -75,6 +75,21 @@ TEST(ListEntries, AreAddedTogetherAsIfOneCameAfterTheOther) {
     }
 }
 
+TEST(ListEntries, StaySelectedWhereverTheyStand) {
+    ListEntries entries = sortedEntries({{QStringLiteral("b")}, {QStringLiteral("d")}});
+    EXPECT_FALSE(entries.isSelected(0));
+    entries.setSelected(0, true);
+    add(entries, QStringLiteral("a"));
+    EXPECT_TRUE(entries.isSelected(1));
+    entries.add({{QStringLiteral("A")}, {QStringLiteral("c")}}, -1);
+    std::vector<bool> selected;
+    for (int i = 0; i < entries.count(); ++i)
+        selected.push_back(entries.isSelected(i));
+    EXPECT_EQ(selected, std::vector({false, false, true, false, false}));
+    entries.setSelected(2, false);
+    EXPECT_FALSE(entries.isSelected(2));
+}
+
 TEST(ListEntries, KeepTheirItemDataThroughTheSort) {
     const ListEntries entries =
         sortedEntries({{QStringLiteral("Zed"), 26}, {QStringLiteral("abe"), 1}});
@@ -134,6 +149,8 @@ TEST(ListEntries, RaiseAnErrorForAnIndexThatHasNoEntry) {
         EXPECT_EQ(errorOf([&] { (void)entries.itemData(index); }), 381) << index;
         EXPECT_EQ(errorOf([&] { (void)entries.text(index); }), 381) << index;
         EXPECT_EQ(errorOf([&] { entries.setItemData(index, 1); }), 381) << index;
+        EXPECT_EQ(errorOf([&] { (void)entries.isSelected(index); }), 381) << index;
+        EXPECT_EQ(errorOf([&] { entries.setSelected(index, true); }), 381) << index;
     }
     EXPECT_EQ(errorOf([&] { (void)entries.itemData(0); }), 0);
 }

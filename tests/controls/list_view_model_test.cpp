@@ -92,6 +92,66 @@ TEST_F(ListViewModelTest, TellsOfOneResetForAWholeFill) {
     EXPECT_EQ(resets, 1);
 }
 
+TEST_F(ListViewModelTest, ChangesARowAndTellsOfItsWholeBreadth) {
+    fillThree();
+    QModelIndex from;
+    QModelIndex to;
+    QObject::connect(&model_, &ListViewModel::dataChanged, &model_,
+                     [&](const QModelIndex& first, const QModelIndex& last) {
+                         from = first;
+                         to = last;
+                     });
+    model_.change(1, row(QStringLiteral("Curie"), QStringLiteral("11")));
+    EXPECT_EQ(names(), QStringList({kZed, QStringLiteral("Curie"), kAbe}));
+    EXPECT_EQ(textAt(1, 1), QStringLiteral("11"));
+    EXPECT_EQ(model_.row(1).texts.first(), QStringLiteral("Curie"));
+    EXPECT_EQ(from, model_.index(1, 0));
+    EXPECT_EQ(to, model_.index(1, 1));
+}
+
+TEST_F(ListViewModelTest, PutsAChangedRowInItsPlaceWhileItIsSorted) {
+    fillThree();
+    model_.setSorting(kByName);
+    model_.change(0, row(QStringLiteral("m"), {}));
+    EXPECT_EQ(names(), QStringList({kEmile, QStringLiteral("m"), kZed}));
+}
+
+TEST_F(ListViewModelTest, RemovesARowAndKeepsTheOthers) {
+    fillThree();
+    const QPersistentModelIndex last = model_.index(2, 0);
+    model_.remove(1);
+    EXPECT_EQ(names(), QStringList({kZed, kAbe}));
+    EXPECT_EQ(last, model_.index(1, 0));
+}
+
+TEST_F(ListViewModelTest, HasABoxBeforeTheFirstTextOfARowWhereItIsToldTo) {
+    fillThree();
+    const auto box = [this](int column) {
+        return model_.data(model_.index(0, column), Qt::CheckStateRole);
+    };
+    EXPECT_FALSE(box(0).isValid());
+    EXPECT_FALSE(model_.index(0, 0).flags() & Qt::ItemIsUserCheckable);
+    EXPECT_FALSE(model_.setData(model_.index(0, 0), Qt::Checked, Qt::CheckStateRole));
+    model_.setCheckBoxes(true);
+    EXPECT_EQ(box(0), Qt::Unchecked);
+    EXPECT_FALSE(box(1).isValid());
+    EXPECT_TRUE(model_.index(0, 0).flags() & Qt::ItemIsUserCheckable);
+    EXPECT_FALSE(model_.index(0, 1).flags() & Qt::ItemIsUserCheckable);
+}
+
+TEST_F(ListViewModelTest, LetsTheUserCheckABoxAndChangeNothingElse) {
+    fillThree();
+    model_.setCheckBoxes(true);
+    EXPECT_TRUE(model_.setData(model_.index(1, 0), Qt::Checked, Qt::CheckStateRole));
+    EXPECT_TRUE(model_.row(1).checked);
+    EXPECT_EQ(model_.data(model_.index(1, 0), Qt::CheckStateRole), Qt::Checked);
+    EXPECT_TRUE(model_.setData(model_.index(1, 0), Qt::Unchecked, Qt::CheckStateRole));
+    EXPECT_FALSE(model_.row(1).checked);
+    EXPECT_FALSE(model_.setData(model_.index(1, 1), Qt::Checked, Qt::CheckStateRole));
+    EXPECT_FALSE(model_.setData(model_.index(1, 0), kAbe, Qt::EditRole));
+    EXPECT_EQ(textAt(1, 0), kEmile);
+}
+
 // Rows that tell of their making.
 class ListViewModelWithMadeRows : public ListViewModelTest {
   protected:
@@ -120,6 +180,11 @@ TEST_F(ListViewModelWithMadeRows, SortsThemAll) {
     EXPECT_EQ(names().join(QString()), QStringLiteral("abc"));
     model_.fill(2, [](int index) { return row(QString(QChar(u'z' - index)), {}); });
     EXPECT_EQ(names().join(QString()), QStringLiteral("yz"));
+}
+
+TEST_F(ListViewModelWithMadeRows, KeepsThemWhenOneBeforeThemGoes) {
+    model_.remove(0);
+    EXPECT_EQ(names().join(QString()), QStringLiteral("ba"));
 }
 
 TEST_F(ListViewModelWithMadeRows, KeepsThemBesideARowThatComesLater) {

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <QHeaderView>
+#include <QStyle>
+#include <QStyleOptionViewItem>
 
 #include "support/errors.h"
 #include "support/event_counter.h"
@@ -46,6 +48,23 @@ class ListViewTest : public testing::Test, public QObject {
 
     QPoint middleOf(int row) { return view_.visualRect(view_.model()->index(row, 0)).center(); }
 
+    QPoint boxOf(int row) {
+        QStyleOptionViewItem option;
+        option.initFrom(&view_);
+        option.rect = view_.visualRect(view_.model()->index(row, 0));
+        option.features = QStyleOptionViewItem::HasCheckIndicator;
+        return view_.style()
+            ->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, &view_)
+            .center();
+    }
+
+    std::vector<bool> checked() {
+        std::vector<bool> checked;
+        for (int i = 1; i <= view_.ListCount(); ++i)
+            checked.push_back(view_.ListItem(i).checked);
+        return checked;
+    }
+
     void columnClicked(int column) { clickedColumns_.push_back(column); }
     void itemClicked(int row) { clickedRows_.push_back(row); }
 
@@ -86,6 +105,65 @@ TEST_F(ListViewTest, TellsWhichRowIsChosenByEnter) {
     view_.Clear();
     pressKey(view_, Qt::Key_Return);
     EXPECT_EQ(clickedRows_.size(), 2u);
+}
+
+TEST_F(ListViewTest, ReadsChangesAndRemovesRowsCountedFromOne) {
+    EXPECT_EQ(view_.ListCount(), 3);
+    EXPECT_EQ(view_.ListItem(1).texts.first(), QStringLiteral("Zed"));
+    view_.setListItem(2, row("Ada", "85"));
+    EXPECT_EQ(view_.ListItem(2).texts, row("Ada", "85").texts);
+    view_.Remove(1);
+    EXPECT_EQ(names(), QStringList({QStringLiteral("Ada"), QStringLiteral("Curie")}));
+}
+
+TEST_F(ListViewTest, RefusesARowThatIsNotThere) {
+    for (const int index : {-1, 0, 4}) {
+        EXPECT_EQ(errorOf([&] { view_.ListItem(index); }), 35600) << index;
+        EXPECT_EQ(errorOf([&] { view_.setListItem(index, {}); }), 35600) << index;
+        EXPECT_EQ(errorOf([&] { view_.Remove(index); }), 35600) << index;
+    }
+    EXPECT_EQ(names(), kAsFilled);
+}
+
+TEST_F(ListViewTest, ChecksARowByAClickOnItsBoxWhichIsAClickOnTheRow) {
+    view_.setCheckBoxes(true);
+    click(*view_.viewport(), boxOf(1));
+    EXPECT_EQ(checked(), std::vector({false, true, false}));
+    EXPECT_EQ(clickedRows_, std::vector{1});
+    click(*view_.viewport(), boxOf(1));
+    EXPECT_EQ(checked(), std::vector({false, false, false}));
+}
+
+TEST_F(ListViewTest, ChecksNothingByAClickBesideTheBox) {
+    view_.setCheckBoxes(true);
+    click(*view_.viewport(), middleOf(1));
+    EXPECT_EQ(checked(), std::vector({false, false, false}));
+}
+
+TEST_F(ListViewTest, ChecksTheRowOfTheFocusByTheSpaceBarInWhicheverColumn) {
+    view_.setCheckBoxes(true);
+    view_.setCurrentIndex(view_.model()->index(2, 1));
+    pressKey(view_, Qt::Key_Space);
+    EXPECT_EQ(checked(), std::vector({false, false, true}));
+    pressKey(view_, Qt::Key_Space);
+    EXPECT_EQ(checked(), std::vector({false, false, false}));
+    EXPECT_EQ(clickedRows_, std::vector<int>());
+}
+
+TEST_F(ListViewTest, HasNoBoxesWhereNobodyAsksForThem) {
+    pressKey(view_, Qt::Key_Space);
+    click(*view_.viewport(), boxOf(1));
+    EXPECT_EQ(checked(), std::vector({false, false, false}));
+}
+
+TEST_F(ListViewTest, HidesAColumnOfNoWidth) {
+    view_.setColumns(
+        {{.header = QStringLiteral("Name")}, {.header = QStringLiteral("ID"), .width = 0}});
+    EXPECT_TRUE(view_.isColumnHidden(1));
+    EXPECT_EQ(view_.header()->sectionSize(0), view_.viewport()->width());
+    view_.setColumns(
+        {{.header = QStringLiteral("Name")}, {.header = QStringLiteral("ID"), .width = 900}});
+    EXPECT_FALSE(view_.isColumnHidden(1));
 }
 
 TEST_F(ListViewTest, MakesOnlyTheRowsThatAreInView) {

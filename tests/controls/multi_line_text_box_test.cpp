@@ -75,3 +75,11 @@ TEST_F(MultiLineTextBoxTest, TakesNoTextWhileItIsLockedAndLooksLikeAButton) {
     EXPECT_EQ(box_.Text(), QStringLiteral("a"));
     EXPECT_EQ(paintedColour(), QColor(Qt::yellow));
 }
+
+TEST_F(MultiLineTextBoxTest, GrowsAtItsEndWhereverTheUserReads) {
+    box_.append(QStringLiteral("one\r\n"));
+    box_.moveCursor(QTextCursor::Start);
+    box_.append(QStringLiteral("two\r\n"));
+    EXPECT_EQ(box_.Text(), QStringLiteral("one\r\ntwo\r\n"));
+    EXPECT_EQ(box_.textCursor().position(), 0);
+}

@@ -275,9 +275,10 @@ TEST_F(ReportWindow, SavesWhereTheUserChooses) {
     EXPECT_EQ(asked().title, u"Save Report ...");
     EXPECT_EQ(asked().folder, QFileInfo(directory_.people()).path());
     EXPECT_EQ(asked().defaultExtension, u"rtf");
-    EXPECT_EQ(asked().filters, QStringList({QStringLiteral("Rich Text (*.rtf)"),
-                                            QStringLiteral("Plain Text (*.txt)"),
-                                            QStringLiteral("All files (*.*)")}));
+    EXPECT_EQ(asked().filters, (std::vector<FileFilter>{
+                                   {QStringLiteral("Rich Text (*.rtf)"), QStringLiteral("*.rtf")},
+                                   {QStringLiteral("Plain Text (*.txt)"), QStringLiteral("*.txt")},
+                                   {QStringLiteral("All files (*.*)"), QStringLiteral("*.*")}}));
     const RichText saved = readRtf(QString::fromLatin1(bytesOf("report.rtf")));
     EXPECT_TRUE(std::holds_alternative<RichPicture>(saved.back().runs.back().content));
 }

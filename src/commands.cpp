@@ -13,6 +13,7 @@
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
 #include "controls/picture_button.h"
+#include "import/frmImport.h"
 #include "records/frmAdd.h"
 #include "records/frmAddNew.h"
 #include "records/frmCategory.h"
@@ -53,6 +54,7 @@ Commands::Commands(frmMain& window) : window_(window) {
     onCommand("mnuMatchDabatase", &Commands::mnuMatchDabatase_Click);
     onCommand("mnuQuickMatch", &Commands::mnuQuickMatch_Click);
     onCommand("mnuReport", &Commands::mnuReport_Click);
+    onCommand("mnuToolsImport", &Commands::mnuToolsImport_Click);
     onCommand("mnuViewDetails", &Commands::cmdDetails_Click);
     onEvent(mainControls().cmdDetails, &PictureButton::Click, this, &Commands::cmdDetails_Click);
     onEvent(mainControls().lstMain, &ListBox::DblClick, this, &Commands::lstMain_DblClick);
@@ -152,6 +154,10 @@ void Commands::mnuHelpAbout_Click() {
 
 void Commands::mnuHelpContents_Click() {
     host().showHelp(&window_, QStringLiteral("ondarahelp.chm"));
+}
+
+void Commands::mnuToolsImport_Click() {
+    frmImport(&window_).ShowModal();
 }
 
 void Commands::tlbMain_ButtonMenuClick(int index) {

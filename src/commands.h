@@ -30,6 +30,7 @@ class Commands final : public QObject {
     void mnuMatchDabatase_Click();
     void mnuQuickMatch_Click();
     void mnuReport_Click();
+    void mnuToolsImport_Click();
     void tlbMain_ButtonMenuClick(int index);
 
     template <class F>

@@ -21,6 +21,7 @@
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
 #include "controls/picture_button.h"
+#include "import/frmImport.h"
 #include "records/frmAdd.h"
 #include "records/frmAddNew.h"
 #include "records/frmCategory.h"
@@ -211,6 +212,7 @@ TEST_F(CommandsTest, OpenTheFormsThatNeedNobodyWithoutAPerson) {
     expectForm<frmCategory>("mnuFileCat");
     expectForm<frmExplore>("mnuFileExplore");
     expectForm<frmGroup>("mnuGroup");
+    expectForm<frmImport>("mnuToolsImport");
 }
 
 TEST_F(CommandsTest, OpenTheFormsThatNeedAPersonForWhoeverIsChosen) {

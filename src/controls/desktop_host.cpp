@@ -76,11 +76,24 @@ QWidget* windowOf(QObject* owner) {
     return window;
 }
 
+// A filter as Qt reads it: the pattern stands in brackets at the end.
+QString nameFilter(const FileFilter& filter) {
+    return QStringLiteral("%1 (%2)").arg(filter.caption, filter.pattern);
+}
+
 QStringList nameFilters(const std::vector<FileFilter>& filters) {
     QStringList names;
     for (const FileFilter& filter : filters)
-        names += QStringLiteral("%1 (%2)").arg(filter.caption, filter.pattern);
+        names += nameFilter(filter);
     return names;
+}
+
+// The number of the filter that Qt tells of, with its pattern or without; 0 if there is none.
+int numberOf(const QString& chosen, const std::vector<FileFilter>& filters) {
+    const auto found = std::find_if(filters.begin(), filters.end(), [&](const FileFilter& filter) {
+        return chosen == nameFilter(filter) || chosen == filter.caption;
+    });
+    return found == filters.end() ? 0 : static_cast<int>(found - filters.begin()) + 1;
 }
 
 // How long a window system may take to show a window. One that is slower, or hides the window
@@ -135,17 +148,15 @@ std::optional<ChosenFile> DesktopHost::chooseFile(const FileQuestion& question) 
                                                                : QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
-    const QStringList filters = nameFilters(question.filters);
-    dialog.setNameFilters(filters);
+    dialog.setNameFilters(nameFilters(question.filters));
     if (!question.fileName.isEmpty())
         dialog.selectFile(question.fileName);
     dialog.setDefaultSuffix(question.defaultExtension);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !question.asksBeforeOverwriting);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    const qsizetype filter = filters.indexOf(dialog.selectedNameFilter());
     return ChosenFile{.path = dialog.selectedFiles().constFirst(),
-                      .filterIndex = static_cast<int>(filter) + 1};
+                      .filterIndex = numberOf(dialog.selectedNameFilter(), question.filters)};
 }
 
 std::optional<QByteArray> DesktopHost::clipboardBitmap() {

@@ -1,14 +1,16 @@
-// The connection strings of the two databases.
+// The connection strings of the databases.
 #include "store/databases.h"
 
 #include "runtime/app.h"
 
 namespace {
 
-QString connectionStringFor(const QString& fileName,
-                            const QString& head = QStringLiteral("PROVIDER")) {
-    return head + QStringLiteral("=Microsoft.Jet.OLEDB.4.0;Data Source=") + App::Path() + u'\\' +
-           fileName + u';';
+QString connectionStringTo(const QString& path, const QString& head = QStringLiteral("PROVIDER")) {
+    return head + QStringLiteral("=Microsoft.Jet.OLEDB.4.0;Data Source=") + path + u';';
+}
+
+QString besideProgram(const QString& fileName) {
+    return App::Path() + u'\\' + fileName;
 }
 
 QString peopleFile() {
@@ -18,15 +20,15 @@ QString peopleFile() {
 }  // namespace
 
 QString personConnectionString() {
-    return connectionStringFor(peopleFile());
+    return connectionStringTo(besideProgram(peopleFile()));
 }
 
 QString explorerConnectionString() {
-    return connectionStringFor(peopleFile(), QStringLiteral("Provider"));
+    return connectionStringTo(besideProgram(peopleFile()), QStringLiteral("Provider"));
 }
 
 QString interpretationConnectionString() {
-    return connectionStringFor(QStringLiteral("Interp.mdb"));
+    return connectionStringTo(besideProgram(QStringLiteral("Interp.mdb")));
 }
 
 Connection openPersonDatabase() {
@@ -35,4 +37,8 @@ Connection openPersonDatabase() {
 
 Connection openInterpretationDatabase() {
     return Connection(interpretationConnectionString(), Access::Read);
+}
+
+Connection openOldPeople(const QString& path) {
+    return Connection(connectionStringTo(path), Access::Read);
 }

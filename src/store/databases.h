@@ -1,4 +1,4 @@
-// The two databases beside the program, and how they are opened.
+// The two databases beside the program, those of Ondara 1.0, and how they are opened.
 #pragma once
 
 #include "store/connection.h"
@@ -14,3 +14,6 @@ QString interpretationConnectionString();
 
 Connection openPersonDatabase();
 Connection openInterpretationDatabase();
+
+// The database of Ondara 1.0 at a path, which is only read.
+Connection openOldPeople(const QString& path);

@@ -94,12 +94,11 @@ TEST_F(DesktopHostTest, AsksForTheNameOfAFileToSave) {
         EXPECT_EQ(dialog.windowTitle(), u"Save");
         EXPECT_EQ(dialog.directory(), QDir(folder_.path()));
         EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
-        EXPECT_EQ(dialog.selectedNameFilter(), u"Rich (*.rtf) (*.rtf)");
-        const auto& filters = child<QComboBox>(dialog, QStringLiteral("fileTypeCombo"));
+        auto& filters = child<QComboBox>(dialog, QStringLiteral("fileTypeCombo"));
         EXPECT_EQ(filters.itemText(0), u"Rich (*.rtf)");
         EXPECT_EQ(filters.itemText(1), u"Anything");
         EXPECT_TRUE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
-        dialog.selectNameFilter(QStringLiteral("Anything (*.*)"));
+        filters.setCurrentIndex(1);
         dialog.selectFile(QStringLiteral("report"));
     });
     ASSERT_TRUE(file);

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QTemporaryDir>
 
 #include "store/recordset.h"
 #include "store/statements.h"
@@ -56,4 +57,16 @@ TEST(Databases, OpenTheInterpretationsToBeReadOnly) {
     Recordset texts(connection, statements::interpretation(1, 1, 1));
     EXPECT_EQ(texts.Fields(u"interp").toText(), u"Up.");
     EXPECT_THROW(connection.database().exec("DELETE FROM HLC"), SQLite::Exception);
+}
+
+TEST(Databases, OfOndara1AreReadWhereverTheyLieAndNeverWritten) {
+    RecordingHost host;
+    const QTemporaryDir folder;
+    runSql(folder.filePath(QStringLiteral("Names.mdb")),
+           QStringLiteral("CREATE TABLE Data (Name, birthdate REAL);"
+                          "INSERT INTO Data VALUES ('Doe, John', 1)"));
+    Connection old = openOldPeople(folder.filePath(QStringLiteral("names.mdb")));
+    Recordset people(old, statements::wholeTable());
+    EXPECT_EQ(people.Fields(u"Name").toText(), u"Doe, John");
+    EXPECT_THROW(old.database().exec("DELETE FROM Data"), SQLite::Exception);
 }

@@ -37,8 +37,8 @@ void frmImport::setUpControls() {
     ui_->cbImport->setSorted(true);
 }
 
-// The step of the editing says most. Where its words have room, no step moves the controls below
-// them.
+// The step of the editing says most. Where its words have room, no step with such words moves the
+// controls below them.
 void frmImport::reserveRoomForGuidance() {
     const QRect room(0, 0, ui_->stkSteps->minimumWidth(), QWIDGETSIZE_MAX);
     const QString guidance = *importing::step(importing::kEditing).guidance;
@@ -89,8 +89,10 @@ void frmImport::WizardSteps(Integer step) {
 }
 
 void frmImport::showChanges(const importing::Step& step) {
-    if (step.guidance)
+    if (step.guidance) {
         ui_->lblIntro->setText(*step.guidance);
+        ui_->lblIntro->setVisible(!step.guidance->isEmpty());
+    }
     if (!step.page.isEmpty())
         ui_->stkSteps->setCurrentWidget(findChild<QWidget*>(step.page));
     if (!step.nextCaption.isEmpty())

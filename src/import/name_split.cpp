@@ -29,7 +29,7 @@ QString ParseLastName(const QString& name) {
         return splitAt(name, comma).before;
     if (const Long blank = blankIn(name))
         return splitAt(name, blank).behind;
-    return Trim(name);
+    return name;
 }
 
 QString ParseFirstName(const QString& name) {

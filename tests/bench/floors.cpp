@@ -78,6 +78,15 @@ std::string plainInterpretation(const QString& database) {
     return row.executeStep() ? row.getColumn(0).getText() : "";
 }
 
+std::vector<std::string> plainOldNames(const QString& database) {
+    const SQLite::Database file(database.toStdString());
+    SQLite::Statement rows(file, "SELECT Name FROM Data");
+    std::vector<std::string> names;
+    while (rows.executeStep())
+        names.push_back(rows.getColumn(0).getText());
+    return names;
+}
+
 PlainWriter::PlainWriter(const QString& database)
     : file_(database.toStdString(), SQLite::OPEN_READWRITE) {
     file_.exec("PRAGMA synchronous = FULL");
@@ -87,6 +96,17 @@ void PlainWriter::setFirstName(Long nameId, const std::string& firstName) {
     SQLite::Statement row(file_, "UPDATE Data SET FName = ? WHERE NameID = ?");
     row.bind(1, firstName);
     row.bind(2, nameId);
+    row.exec();
+}
+
+void PlainWriter::addPerson(const std::string& name, const std::string& firstName,
+                            double birthdate) {
+    SQLite::Statement row(file_,
+                          "INSERT INTO Data (Name, FName, Birthdate, Gender, CatID) "
+                          "VALUES (?, ?, ?, 0, (SELECT min(CatID) FROM Category))");
+    row.bind(1, name);
+    row.bind(2, firstName);
+    row.bind(3, birthdate);
     row.exec();
 }
 

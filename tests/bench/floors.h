@@ -39,12 +39,18 @@ std::vector<double> plainBirthdatesOfFirst(const QString& database, Long people)
 // The interpretation of a day on which every cycle is critical.
 std::string plainInterpretation(const QString& database);
 
-// Writes people by their keys, durably.
+// The names of an old database.
+std::vector<std::string> plainOldNames(const QString& database);
+
+// Writes people, each durably by itself.
 class PlainWriter {
   public:
     explicit PlainWriter(const QString& database);
 
     void setFirstName(Long nameId, const std::string& firstName);
+
+    // Adds a man to the first category.
+    void addPerson(const std::string& name, const std::string& firstName, double birthdate);
 
   private:
     SQLite::Database file_;

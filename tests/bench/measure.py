@@ -108,6 +108,13 @@ OLD_DATABASES = [
     ('Jet 4 read, a megabyte', 'readJet4', 10),
 ]
 
+# The import into a database of as many people; an aim is so many milliseconds.
+IMPORTS = [
+    ('5,000 old names listed to painted', 'listOldNames', 100),
+    ('5,000 people imported one by one', 'importPeople', 2_000),
+]
+IMPORTED_AMONG = 1_000
+
 
 class Start:
     """One start of a program, which tells by first_paint.cpp what it has painted.
@@ -245,6 +252,14 @@ def print_old_databases(times):
                   verdict(times[routine], aim, 'ms'))
 
 
+def print_imports(times):
+    print_row('import', '', 'Ondara', 'floor', 'ratio', 'aim')
+    for what, routine, aim in IMPORTS:
+        value, floor = times[routine], times[f'{routine}Floor']
+        print_row(what, '', f'{value:.3f} ms', f'{floor:.3f} ms', f'{value / floor:.2f}',
+                  verdict(value, aim, 'ms'))
+
+
 def print_growth(routines):
     print_row('growth, per n log n', 'people', 'Ondara', 'floor', '', 'aim')
     few, many = 1_000, 100_000
@@ -266,11 +281,13 @@ def main():
         starts = measure_starts(programs, folders)
         events = '|'.join(routine for _, routine, _, _ in EVENTS)
         reports = '|'.join(f'{routine}/' for _, routine, _ in REPORTS)
-        routines = {people: measure_routines(folder, f'-Favourites|{events}|{reports}')
+        imports = '|'.join(routine for _, routine, _ in IMPORTS)
+        routines = {people: measure_routines(folder, f'-Favourites|{events}|{reports}|{imports}')
                     for people, folder in folders.items()}
         favourites = measure_routines(folders[PEOPLE[0]], 'Favourites')
         searches = measure_routines(folders[PEOPLE[0]], events)
         reported = measure_routines(folders[REPORTED_PEOPLE], reports)
+        imported = measure_routines(folders[IMPORTED_AMONG], imports)
     print_starts(*starts)
     print()
     print_routines(routines)
@@ -284,6 +301,8 @@ def main():
     print_reports(reported)
     print()
     print_old_databases(measure_old_databases(programs / 'bench_jet'))
+    print()
+    print_imports(imported)
 
 
 if __name__ == '__main__':

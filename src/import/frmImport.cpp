@@ -31,7 +31,6 @@ void frmImport::setUpControls() {
     cdgImport_->setProposedName(QStringLiteral("names.mdb"));
     cdgImport_->setFilter(QStringLiteral("Ondara 1.0 database|names.mdb"));
     ui_->txtPath->setLocked(true);
-    ui_->txtFinish->setLocked(true);
     ui_->lvImport->setCheckBoxes(true);
     ui_->lvImport->setColumns(importColumns());
     ui_->cbImport->setSorted(true);

@@ -58,6 +58,7 @@ TEST_F(Import, StartsWithTheLocation) {
     EXPECT_FALSE(isEnabled("cmdNext"));
     EXPECT_EQ(guidance(), importing::step(1).guidance);
     EXPECT_EQ(shown(), kLocationControls);
+    EXPECT_TRUE(in<TextBox>("txtPath").isReadOnly());
     EXPECT_EQ(in<DatePicker>("dtpImport").CustomFormat(), u"d MMMM yyyy");
 }
 
@@ -345,6 +346,7 @@ TEST_F(Import, LeavesTheBarWhereItIsUntilItGoes) {
     QObject::connect(&in<MultiLineTextBox>("txtFinish"), &MultiLineTextBox::textChanged, &bar, [&] {
         values.push_back(bar.Value());
         shows.push_back(isShown("pbImport"));
+        EXPECT_EQ(closing(), QString());
     });
     QObject::connect(&bar, &ProgressBar::valueChanged, &bar, [] { ADD_FAILURE() << "it moved"; });
     press("cmdNext");

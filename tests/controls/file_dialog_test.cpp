@@ -50,7 +50,9 @@ TEST_F(FileDialogTest, HasTheFiltersThatItWasGivenLast) {
     dialog_.setFilter(QStringLiteral("Rich Text (*.rtf)|*.rtf"));
     host_.expectFileQuestion(std::nullopt);
     dialog_.ShowSave();
-    EXPECT_EQ(asked().filters, QStringList(QStringLiteral("Rich Text (*.rtf)")));
+    EXPECT_EQ(
+        asked().filters,
+        (std::vector<FileFilter>{{QStringLiteral("Rich Text (*.rtf)"), QStringLiteral("*.rtf")}}));
 }
 
 TEST_F(FileDialogTest, AsksBeforeOverwritingByItsFlag) {

@@ -395,6 +395,8 @@ class Builder {
         bytes[0] = 2;
         bytes[1] = 1;
         put(bytes, is4_ ? 16 : 12, count);
+        if (is4_)
+            put(bytes, 20, table.lastNumber);
         bytes[is4_ ? 40 : 20] = 0x4E;
         put(bytes, is4_ ? 41 : 21, columns);
         put(bytes, is4_ ? 43 : 23, static_cast<std::uint16_t>(variables));
@@ -420,7 +422,8 @@ class Builder {
             put(entry, is4_ ? 5 : 1, number);
             put(entry, is4_ ? 7 : 3, variable);
             put(entry, is4_ ? 9 : 5, number);
-            entry[is4_ ? 15 : 13] = isVariable(column) ? 2 : 3;
+            const bool isAuto = table.lastNumber != 0 && number == 0;
+            entry[is4_ ? 15 : 13] = isVariable(column) ? 2 : isAuto ? 7 : 3;
             put(entry, is4_ ? 21 : 14, offset);
             put(entry, is4_ ? 23 : 16, static_cast<std::uint16_t>(size));
             bytes += entry;

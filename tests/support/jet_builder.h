@@ -35,6 +35,7 @@ struct BuiltTable {
     bool hasLargeMap = false;  // its usage map lies on a page of its own
     bool hasCompressedTexts = false;
     int memoPiece = 0;  // the bytes of a memo's piece; 0 for as many as a page has room for
+    int lastNumber = 0;  // if any, the first column numbers the rows
     int indexes = 0;    // their definitions stand before those of the columns
 };
 

@@ -16,6 +16,7 @@ struct JetFormat {
 
     // In a table's definition.
     int rowsInTable;
+    int lastNumber;  // 0 where the format is not known to tell it
     int mostColumns;
     int variableColumns;
     int columnCount;
@@ -43,6 +44,7 @@ inline constexpr JetFormat kJet3{.version = 3,
                                  .rowCount = 8,
                                  .slots = 10,
                                  .rowsInTable = 12,
+                                 .lastNumber = 0,
                                  .mostColumns = 21,
                                  .variableColumns = 23,
                                  .columnCount = 25,
@@ -65,6 +67,7 @@ inline constexpr JetFormat kJet4{.version = 4,
                                  .rowCount = 12,
                                  .slots = 14,
                                  .rowsInTable = 16,
+                                 .lastNumber = 20,
                                  .mostColumns = 41,
                                  .variableColumns = 43,
                                  .columnCount = 45,

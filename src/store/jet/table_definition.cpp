@@ -10,6 +10,7 @@ namespace {
 constexpr int kMostColumns = 255;
 constexpr int kMostPages = 64;  // 255 columns and 32 indexes with the longest of names need fewer
 constexpr int kFixed = 1;
+constexpr int kAuto = 4;
 
 // The whole definition, which goes on from page to page.
 QByteArray definitionBytes(JetPages& pages, std::uint32_t first) {
@@ -50,13 +51,15 @@ int fixedSizeOf(JetType type, int length) {
 
 JetColumn columnOf(ByteView bytes, const JetFormat& format) {
     const auto type = static_cast<JetType>(bytes.numberAt<std::uint8_t>(0));
+    const auto flags = bytes.numberAt<std::uint8_t>(format.columnFlags);
     return {.name = {},
             .type = type,
             .number = bytes.numberAt<std::uint16_t>(format.columnNumber),
-            .isFixed = (bytes.numberAt<std::uint8_t>(format.columnFlags) & kFixed) != 0,
+            .isFixed = (flags & kFixed) != 0,
             .variableIndex = bytes.numberAt<std::uint16_t>(format.variableIndex),
             .fixedOffset = bytes.numberAt<std::uint16_t>(format.fixedOffset),
-            .fixedSize = fixedSizeOf(type, bytes.numberAt<std::uint16_t>(format.columnLength))};
+            .fixedSize = fixedSizeOf(type, bytes.numberAt<std::uint16_t>(format.columnLength)),
+            .isAuto = (flags & kAuto) != 0};
 }
 
 std::vector<JetColumn> columnsOf(ByteView definition, const JetFormat& format) {
@@ -75,6 +78,16 @@ std::vector<JetColumn> columnsOf(ByteView definition, const JetFormat& format) {
         place += length;
     }
     return columns;
+}
+
+// What the definition says of a table that numbers no rows means nothing.
+std::int32_t lastNumberOf(ByteView definition, const std::vector<JetColumn>& columns,
+                          const JetFormat& format) {
+    const bool numbersRows = std::any_of(columns.begin(), columns.end(),
+                                         [](const JetColumn& column) { return column.isAuto; });
+    return format.lastNumber != 0 && numbersRows
+               ? definition.numberAt<std::int32_t>(format.lastNumber)
+               : 0;
 }
 
 // Whether two columns claim the same bit or bytes of a row.
@@ -109,11 +122,13 @@ TableDefinition readTableDefinition(JetPages& pages, std::uint32_t page) {
     TableDefinition table{
         .page = page,
         .rows = view.numberAt<std::uint32_t>(format.rowsInTable),
+        .lastNumber = 0,
         .mostColumns = view.numberAt<std::uint16_t>(format.mostColumns),
         .hasVariableColumns = view.numberAt<std::uint16_t>(format.variableColumns) != 0,
         .usageMap = JetPointer(view.numberAt<std::uint32_t>(format.usageMap)),
         .columns = columnsOf(view, format)};
     check(table);
+    table.lastNumber = lastNumberOf(view, table.columns, format);
     std::sort(table.columns.begin(), table.columns.end(),
               [](const auto& one, const auto& other) { return one.number < other.number; });
     return table;

@@ -33,12 +33,14 @@ struct JetColumn {
     int variableIndex;  // among those of such a length
     int fixedOffset;    // in bytes, behind a row's count of columns
     int fixedSize;
+    bool isAuto;  // each row gets a number that no other has had
 };
 
 struct TableDefinition {
     std::uint32_t page;
     std::uint32_t rows;
-    int mostColumns;  // that a row can have
+    std::int32_t lastNumber;  // that a row got by itself; 0 where none did, or the file does not tell
+    int mostColumns;          // that a row can have
     bool hasVariableColumns;
     JetPointer usageMap;
     std::vector<JetColumn> columns;  // in the order in which they were made

@@ -151,6 +151,17 @@ TEST_F(JetSamples, HoldAWholeDatabase) {
               (std::vector{T::Int32, T::Text, T::Text, T::Date, T::Boolean, T::Int32, T::Memo}));
 }
 
+TEST_F(JetSamples, TellTheLastNumbersThatRowsGotByThemselves) {
+    const auto lastNumber = [](const char* file, const char* table) {
+        return JetFile(samplePath(file)).table(QLatin1String(table)).lastNumber();
+    };
+    EXPECT_EQ(lastNumber("Ondara2-jet4.mdb", "Data"), 252);
+    EXPECT_EQ(lastNumber("Ondara2-jet4.mdb", "Category"), 6);
+    EXPECT_EQ(lastNumber("Names-jet4.mdb", "Data"), 18);
+    EXPECT_EQ(lastNumber("Names-large.mdb", "Data"), 0);
+    EXPECT_EQ(lastNumber("Ondara2-jet3.mdb", "Data"), 0);
+}
+
 TEST_F(JetSamples, HoldAWholeDatabaseOfTheOlderFormat) {
     std::vector<DescribedTable> described = describedTables("Ondara2-jet4.mdb");
     std::erase_if(described[1].rows, [](const std::vector<Value>& row) {

@@ -85,3 +85,14 @@ TEST_P(Definitions, ThatContradictThemselvesAreErrors) {
     EXPECT_EQ(errorWith(is4() ? 46 : 26, 1), text("a table has 261 columns, name"));
     EXPECT_EQ(errorWith(0, 1), text("page 3 is not of the kind that it should be, name"));
 }
+
+TEST_P(Definitions, TellTheLastNumberThatARowGotByItself) {
+    BuiltTable table = builtPeople();
+    table.lastNumber = 8;
+    BuiltJet jet = builtJet(GetParam(), {table});
+    EXPECT_EQ(JetFile(jet.bytes, text("name")).table(text("Data")).lastNumber(), is4() ? 8 : 0);
+
+    const qsizetype flags = jet.place(jet.tables.front().definition, column(0, 13, 15));
+    jet.bytes[flags] = static_cast<char>(jet.bytes[flags] & ~4);
+    EXPECT_EQ(JetFile(jet.bytes, text("name")).table(text("Data")).lastNumber(), 0);
+}

@@ -1,10 +1,12 @@
 // What the machine's host does in its own way on Linux.
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <QDirIterator>
 #include <QFile>
 
+#include "runtime/disk_sync.h"
 #include "runtime/folder_access.h"
 #include "runtime/machine_host.h"
 #include "runtime/system_help.h"
@@ -48,4 +50,17 @@ bool showSystemHelp(quintptr, const QString&) {
 
 bool canMakeFilesIn(const QString& folder) {
     return access(QFile::encodeName(folder).constData(), W_OK | X_OK) == 0;
+}
+
+bool syncFile(const QFile& file) {
+    return fsync(file.handle()) == 0;
+}
+
+void syncFolder(const QString& folder) {
+    const int opened =
+        open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (opened < 0)
+        return;
+    fsync(opened);
+    close(opened);
 }

@@ -4,11 +4,13 @@
 #include <array>
 #include <memory>
 
+#include "runtime/disk_sync.h"
 #include "runtime/folder_access.h"
 #include "runtime/machine_host.h"
 #include "runtime/system_help.h"
 
 // windows.h must come before the headers that depend on it.
+#include <io.h>
 #include <windows.h>
 // clang-format off
 #include <htmlhelp.h>
@@ -108,3 +110,9 @@ bool showSystemHelp(quintptr window, const QString& fileName) {
 bool canMakeFilesIn(const QString& folder) {
     return QTemporaryFile(folder + QStringLiteral("/XXXXXX")).open();
 }
+
+bool syncFile(const QFile& file) {
+    return _commit(file.handle()) == 0;
+}
+
+void syncFolder(const QString&) {}

@@ -3,8 +3,8 @@
 
 namespace modCycles {
 
-// Shows the main window behind a splash, unless another instance of the program runs: then it says
-// so, and loads nothing.
+// Shows the main window behind a splash, and adopts old databases before it loads, unless another
+// instance of the program runs: then it says so, and loads nothing.
 void Main();
 
 }  // namespace modCycles

@@ -69,4 +69,23 @@ QString interpretation(Integer emotional, Integer physical, Integer intellectual
            numberText(intellectual);
 }
 
+QString addCategory() {
+    return QStringLiteral("INSERT INTO Category (CatID, Category) VALUES (?, ?)");
+}
+
+QString addPerson() {
+    return QStringLiteral(
+        "INSERT INTO Data (NameID, Name, FName, Birthdate, Gender, CatID, Notes) "
+        "VALUES (?, ?, ?, ?, ?, ?, ?)");
+}
+
+QString addInterpretation() {
+    return QStringLiteral(
+        "INSERT OR IGNORE INTO HLC (Emot, Phys, Intel, interp) VALUES (?, ?, ?, ?)");
+}
+
+QString raiseLastNumber() {
+    return QStringLiteral("UPDATE sqlite_sequence SET seq = max(seq, ?) WHERE name = ?");
+}
+
 }  // namespace statements

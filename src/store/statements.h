@@ -27,4 +27,10 @@ QString categoriesInOrder();
 // The interpretation of a day; each state is -1 low, 0 critical or 1 high.
 QString interpretation(Integer emotional, Integer physical, Integer intellectual);
 
+// The rows of an old database, written into a new one.
+QString addCategory();        // CatID, Category
+QString addPerson();          // NameID, Name, FName, Birthdate, Gender, CatID, Notes
+QString addInterpretation();  // Emot, Phys, Intel, interp; nothing where the table cannot hold it
+QString raiseLastNumber();    // the number that is no more to be used, and the table
+
 }  // namespace statements

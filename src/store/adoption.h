@@ -12,9 +12,9 @@ struct Adoption {
     QString leftOutName;  // of the file that they are kept in; "" where there are none
 };
 
-// Where the person database beside the program is a Jet file, makes it a database of today, with all
-// its people under their numbers: nothing if it is none. The old file is kept. It takes place as a
-// whole or not at all, as replacement.h says; a failure leaves everything as it was, and is a
+// Where the person database beside the program is a Jet file, makes it a database of today, with
+// all its people under their numbers: nothing if it is none. The old file is kept. It takes place
+// as a whole or not at all, as replacement.h says; a failure leaves everything as it was, and is a
 // run-time error that names its cause.
 std::optional<Adoption> adoptPeople();
 

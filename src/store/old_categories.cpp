@@ -31,9 +31,9 @@ void OldCategories::readNames(const OldDatabase& database) {
 }
 
 void OldCategories::addMissing(const OldDatabase& database) {
-    JetRows rows = database.rows(QStringLiteral("Data"),
-                                 {{QStringLiteral("CatID"), OldField::Number},
-                                  {QStringLiteral("Birthdate"), OldField::Date}});
+    JetRows rows =
+        database.rows(QStringLiteral("Data"), {{QStringLiteral("CatID"), OldField::Number},
+                                               {QStringLiteral("Birthdate"), OldField::Date}});
     bool needsUnknown = false;
     while (rows.next()) {
         const Value& catId = rows.values()[0];
@@ -44,8 +44,7 @@ void OldCategories::addMissing(const OldDatabase& database) {
         }
         largest_ = std::max(largest_, catId.toLong());
         if (!isLeftOut)
-            names_.try_emplace(catId.toLong(),
-                               QStringLiteral("Unknown (%1)").arg(catId.toLong()));
+            names_.try_emplace(catId.toLong(), QStringLiteral("Unknown (%1)").arg(catId.toLong()));
     }
     if (needsUnknown)
         addUnknown(database);

@@ -1,4 +1,5 @@
-// The categories of an old database, those included that its people refer to and that are not there.
+// The categories of an old database, those included that its people refer to and that are not
+// there.
 #pragma once
 
 #include <QString>

@@ -141,9 +141,8 @@ QString Replacement::nameFor(const QString& word, const QString& suffix,
 }
 
 QString Replacement::addText(const QString& word, const QByteArray& bytes) {
-    const QString name = nameFor(word, QStringLiteral("txt"), [&bytes](const QString& path) {
-        return hasBytes(path, bytes);
-    });
+    const QString name = nameFor(word, QStringLiteral("txt"),
+                                 [&bytes](const QString& path) { return hasBytes(path, bytes); });
     addUnlessThere(name, [&bytes](QFile& file) { writeBlock(file, bytes); });
     return name;
 }

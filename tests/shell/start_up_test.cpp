@@ -6,11 +6,14 @@
 #include <QFile>
 
 #include "controls/form.h"
+#include "controls/list_box.h"
 #include "runtime/event.h"
 #include "shell/default_instance.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
+#include "support/files.h"
 #include "support/main_window.h"
+#include "support/old_tables.h"
 
 namespace {
 
@@ -87,15 +90,54 @@ TEST_F(StartUp, LeavesNoMarkerBesideTheDatabases) {
         QStringList({QStringLiteral("Interp.mdb"), QStringLiteral("Ondara2.mdb")}));
 }
 
+TEST_F(StartUp, AdoptsOldDatabasesBeforeTheMainWindowLoads) {
+    makeFile(directory_.people(), oldDatabase());
+    makeFile(directory_.interpretation(),
+             builtJet(4, {oldInterpretations({{{1, 1, 1, QStringLiteral("High.")}}})}).bytes);
+    modCycles::Main();
+    auto& people = child<ListBox>(*Form::forms().front(), QStringLiteral("lstMain"));
+    EXPECT_EQ(people.ListCount(), 2);
+    EXPECT_EQ(people.List(0), u"Adler");
+    EXPECT_EQ(fileBytes(directory_.path(QStringLiteral("Ondara2 (Jet).mdb"))), oldDatabase());
+    EXPECT_TRUE(QFile::exists(directory_.path(QStringLiteral("Interp (Jet).mdb"))));
+    EXPECT_EQ(valueOf(directory_.interpretation(), QStringLiteral("SELECT interp FROM HLC")),
+              Value(QStringLiteral("High.")));
+}
+
+TEST_F(StartUp, NamesOnTheSplashWhoIsLeftOut) {
+    makeFile(directory_.people(), oldDatabaseWithNoDate());
+    QStringList loaded;
+    host_.onMessage([&] { loaded = loadedForms(); });
+    host_.expectMessage(
+        QStringLiteral("Ondara has taken over your old database, but for the people without a "
+                       "birth date:\n\nBerg\n\nAll that is known of them is kept in \"Ondara2 "
+                       "(left out).txt\", and the old database as \"Ondara2 (Jet).mdb\"."));
+    modCycles::Main();
+    EXPECT_EQ(loaded, QStringList(QStringLiteral("frmSplash")));
+    EXPECT_EQ(host_.messages().back().title, u"Ondara");
+    EXPECT_EQ(host_.messages().back().icon, MessageIcon::Information);
+    EXPECT_NE(host_.messages().back().owner, nullptr);
+    EXPECT_EQ(loadedForms(), QStringList(QStringLiteral("frmMain")));
+}
+
+TEST_F(StartUp, LoadsNothingWhereAnOldDatabaseCannotBeAdopted) {
+    const QByteArray damaged = oldDatabase().chopped(4096);
+    makeFile(directory_.people(), damaged);
+    EXPECT_THROW(modCycles::Main(), RuntimeError);
+    EXPECT_EQ(loadedForms(), QStringList(QStringLiteral("frmSplash")));
+    EXPECT_EQ(fileBytes(directory_.people()), damaged);
+}
+
 TEST_F(StartUp, RefusesASecondInstanceAndLoadsNothing) {
     host_.setAnotherInstanceRuns(true);
-    QFile::remove(directory_.people());
+    makeFile(directory_.people(), oldDatabase());
     host_.expectMessage(QStringLiteral("Cannot load program again."));
     modCycles::Main();
     const Message& box = host_.messages().back();
     EXPECT_EQ(box.title, QStringLiteral("The requested application is already open"));
     EXPECT_EQ(box.icon, MessageIcon::Exclamation);
     EXPECT_EQ(box.buttons, MessageButtons::Ok);
+    EXPECT_EQ(fileBytes(directory_.people()), oldDatabase());
     EXPECT_TRUE(Form::forms().empty());
 }
 

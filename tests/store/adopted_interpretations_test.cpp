@@ -5,9 +5,9 @@
 
 #include <QTemporaryDir>
 
-#include "store/old_tables.h"
 #include "store/schemas.h"
 #include "support/errors.h"
+#include "support/old_tables.h"
 #include "support/people.h"
 #include "support/printing.h"
 

@@ -7,9 +7,9 @@
 #include <QTemporaryDir>
 #include <limits>
 
-#include "store/old_tables.h"
 #include "store/schemas.h"
 #include "support/errors.h"
+#include "support/old_tables.h"
 #include "support/people.h"
 #include "support/printing.h"
 
@@ -40,8 +40,8 @@ class AdoptedPeople : public testing::Test {
 
 TEST_F(AdoptedPeople, KeepTheirNumbersAndAllOfTheirFields) {
     categories_.rows = {oldCategory(3, "Family"), oldCategory(8, "Çok özel")};
-    people_.rows = {{{7, QStringLiteral("Müller"), QStringLiteral("Jürgen"), -18076.75, Value(false),
-                      8, QStringLiteral("Likes tea.\r\n")}}};
+    people_.rows = {{{7, QStringLiteral("Müller"), QStringLiteral("Jürgen"), -18076.75,
+                      Value(false), 8, QStringLiteral("Likes tea.\r\n")}}};
     EXPECT_TRUE(adopt().isEmpty());
     EXPECT_EQ(inNew("SELECT NameID FROM Data"), Value(7));
     EXPECT_EQ(inNew("SELECT Name FROM Data"), Value(QString::fromUtf8("Müller")));

@@ -6,10 +6,10 @@
 #include <QDir>
 
 #include "store/databases.h"
-#include "store/old_tables.h"
 #include "store/recordset.h"
 #include "store/statements.h"
 #include "support/errors.h"
+#include "support/old_tables.h"
 #include "support/people.h"
 #include "support/printing.h"
 #include "support/program_directory.h"

@@ -45,8 +45,8 @@ TEST_F(NewDatabaseTest, HasNothingWithoutThat) {
 TEST_F(NewDatabaseTest, RefusesAPersonWithoutACategory) {
     NewDatabase database(path_, peopleSchema());
     const QString description = descriptionOf([&] {
-        database.run(statements::addPerson(), {1, QStringLiteral("Adler"), Value(), 1.0, -1, 1,
-                                               Value()});
+        database.run(statements::addPerson(),
+                     {1, QStringLiteral("Adler"), Value(), 1.0, -1, 1, Value()});
     });
     EXPECT_TRUE(description.contains(QStringLiteral("the row refers to another")))
         << description.toStdString();

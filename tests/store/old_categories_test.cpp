@@ -6,8 +6,8 @@
 #include <QTemporaryDir>
 #include <limits>
 
-#include "store/old_tables.h"
 #include "support/errors.h"
+#include "support/old_tables.h"
 
 namespace {
 
@@ -28,28 +28,26 @@ OldCategories categoriesOf(std::vector<BuiltRow> categories, std::vector<BuiltRo
 TEST(OldCategories, AreThoseOfTheirTable) {
     const OldCategories categories = categoriesOf(
         {oldCategory(3, "Family"), oldCategory(1, ""), {{2, Value()}}}, {oldPerson(1, "Adler", 3)});
-    EXPECT_EQ(categories.names(), (Names{{1, QStringLiteral("")},
-                                         {2, QStringLiteral("")},
-                                         {3, QStringLiteral("Family")}}));
+    EXPECT_EQ(
+        categories.names(),
+        (Names{{1, QStringLiteral("")}, {2, QStringLiteral("")}, {3, QStringLiteral("Family")}}));
     EXPECT_EQ(categories.numberOf(3), 3);
     EXPECT_EQ(categories.largest(), 3);
 }
 
 TEST(OldCategories, AreMadeForNumbersWithoutACategory) {
-    const OldCategories categories =
-        categoriesOf({}, {oldPerson(1, "Adler", 99), oldPerson(2, "Berg", -5),
-                          oldPerson(3, "Curie", 99)});
-    EXPECT_EQ(categories.names(), (Names{{-5, QStringLiteral("Unknown (-5)")},
-                                         {99, QStringLiteral("Unknown (99)")}}));
+    const OldCategories categories = categoriesOf(
+        {}, {oldPerson(1, "Adler", 99), oldPerson(2, "Berg", -5), oldPerson(3, "Curie", 99)});
+    EXPECT_EQ(categories.names(),
+              (Names{{-5, QStringLiteral("Unknown (-5)")}, {99, QStringLiteral("Unknown (99)")}}));
     EXPECT_EQ(categories.numberOf(99), 99);
     EXPECT_EQ(categories.largest(), 99);
 }
 
 TEST(OldCategories, HaveOneMoreForPeopleWithNone) {
-    const OldCategories categories =
-        categoriesOf({oldCategory(1, "Family")}, {oldPerson(1, "Adler", Value()),
-                                                  oldPerson(2, "Berg", 0),
-                                                  oldPerson(3, "Curie", 4)});
+    const OldCategories categories = categoriesOf(
+        {oldCategory(1, "Family")},
+        {oldPerson(1, "Adler", Value()), oldPerson(2, "Berg", 0), oldPerson(3, "Curie", 4)});
     EXPECT_EQ(categories.names(), (Names{{1, QStringLiteral("Family")},
                                          {4, QStringLiteral("Unknown (4)")},
                                          {5, QStringLiteral("Unknown")}}));
@@ -81,10 +79,9 @@ TEST(OldCategories, AreNotMadeForPeopleWhoAreLeftOut) {
 
 TEST(OldCategories, RefuseATableInWhichNoNumberIsLeft) {
     const Long last = std::numeric_limits<Long>::max();
-    EXPECT_EQ(errorOf([&] {
-                  categoriesOf({oldCategory(last, "Family")}, {oldPerson(1, "Adler", 0)});
-              }),
-              6);
+    EXPECT_EQ(
+        errorOf([&] { categoriesOf({oldCategory(last, "Family")}, {oldPerson(1, "Adler", 0)}); }),
+        6);
     EXPECT_EQ(errorOf([&] {
                   categoriesOf({oldCategory(last, "Family")}, {oldPerson(1, "Adler", last)});
               }),

@@ -6,8 +6,8 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include "store/old_tables.h"
 #include "support/errors.h"
+#include "support/old_tables.h"
 #include "support/printing.h"
 
 namespace {
@@ -22,8 +22,9 @@ class OldDatabaseTest : public testing::Test {
     }
 
     QString ofAnotherType(const char* field) {
-        return QStringLiteral("Type mismatch: field %1 of table Data is of another type than in "
-                              "Ondara, %2")
+        return QStringLiteral(
+                   "Type mismatch: field %1 of table Data is of another type than in "
+                   "Ondara, %2")
             .arg(QLatin1String(field), QDir::toNativeSeparators(path_));
     }
 
@@ -36,10 +37,11 @@ class OldDatabaseTest : public testing::Test {
 TEST_F(OldDatabaseTest, HasTheFieldsThatAreAskedForWhateverTheirCase) {
     make({oldPeople({oldPerson(7, "Adler", 3)})});
     const OldDatabase old(path_);
-    JetRows rows = old.rows(QStringLiteral("data"), {{QStringLiteral("name"), OldField::Text},
-                                                     {QStringLiteral("nameid"), OldField::Number},
-                                                     {QStringLiteral("gender"), OldField::Truth},
-                                                     {QStringLiteral("birthdate"), OldField::Date}});
+    JetRows rows =
+        old.rows(QStringLiteral("data"), {{QStringLiteral("name"), OldField::Text},
+                                          {QStringLiteral("nameid"), OldField::Number},
+                                          {QStringLiteral("gender"), OldField::Truth},
+                                          {QStringLiteral("birthdate"), OldField::Date}});
     ASSERT_TRUE(rows.next());
     EXPECT_EQ(rows.values(),
               (std::vector<Value>{QStringLiteral("Adler"), 7, Value(true), 20514.0}));
@@ -54,11 +56,10 @@ TEST_F(OldDatabaseTest, TakesNumbersAndTextsOfAnySize) {
                        {QStringLiteral("Long"), JetType::Memo}},
            .rows = {{{200, -1, QStringLiteral("a"), QStringLiteral("b")}}}}});
     const OldDatabase old(path_);
-    JetRows rows =
-        old.rows(QStringLiteral("Data"), {{QStringLiteral("Small"), OldField::Number},
-                                          {QStringLiteral("Middle"), OldField::Number},
-                                          {QStringLiteral("Short"), OldField::Text},
-                                          {QStringLiteral("Long"), OldField::Text}});
+    JetRows rows = old.rows(QStringLiteral("Data"), {{QStringLiteral("Small"), OldField::Number},
+                                                     {QStringLiteral("Middle"), OldField::Number},
+                                                     {QStringLiteral("Short"), OldField::Text},
+                                                     {QStringLiteral("Long"), OldField::Text}});
     ASSERT_TRUE(rows.next());
     EXPECT_EQ(rows.values(),
               (std::vector<Value>{200, -1, QStringLiteral("a"), QStringLiteral("b")}));

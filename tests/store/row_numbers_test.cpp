@@ -6,8 +6,8 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include "store/old_tables.h"
 #include "support/errors.h"
+#include "support/old_tables.h"
 
 namespace {
 

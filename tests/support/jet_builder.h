@@ -34,9 +34,9 @@ struct BuiltTable {
     std::vector<BuiltRow> rows;
     bool hasLargeMap = false;  // its usage map lies on a page of its own
     bool hasCompressedTexts = false;
-    int memoPiece = 0;  // the bytes of a memo's piece; 0 for as many as a page has room for
+    int memoPiece = 0;   // the bytes of a memo's piece; 0 for as many as a page has room for
     int lastNumber = 0;  // if any, the first column numbers the rows
-    int indexes = 0;    // their definitions stand before those of the columns
+    int indexes = 0;     // their definitions stand before those of the columns
 };
 
 // Where the parts of a table lie.

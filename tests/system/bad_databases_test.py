@@ -94,6 +94,28 @@ class ProtectedDatabase(RefusalTestCase):
             exec "$FOLDER/ondara"'''))
 
 
+class OldDatabase(RefusalTestCase):
+    """One that cannot be adopted."""
+
+    def setUp(self):
+        super().setUp()
+        self.program.make_old_database()
+
+    def test_of_old_cut_off(self):
+        self.program.people.write_bytes(self.program.people.read_bytes()[:-4096])
+        self.expect_refusal()
+
+    def test_of_old_without_the_permission_to_write(self):
+        self.program.people.chmod(0o444)
+        self.expect_refusal(self.program.start_as_ordinary_user)
+
+    def test_of_old_in_a_folder_without_the_permission_to_write(self):
+        self.program.people.chmod(0o666)
+        self.program.folder.chmod(0o555)
+        self.addCleanup(self.program.folder.chmod, 0o755)
+        self.expect_refusal(self.program.start_as_ordinary_user)
+
+
 class FullDisk(SystemTestCase):
     def test_is_no_matter_as_nothing_is_written(self):
         before = contents(self.program.folder)

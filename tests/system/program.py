@@ -104,6 +104,11 @@ class Program:
             assert other.stdout.readline() == 'locked\n'
             yield
 
+    def make_old_database(self):
+        """Puts one of old in the place of the person database: Adler, and Berg without a birth
+        date."""
+        subprocess.run([os.environ['ONDARA_OLD_DATABASE'], self.people], check=True)
+
     def run_sql(self, *statements):
         """Changes the person database."""
         connection = sqlite3.connect(self.people)

@@ -22,8 +22,8 @@ class JetTable {
     // In the order in which the columns were made.
     const std::vector<JetColumn>& columns() const { return definition_.columns; }
 
-    // The last number that a row has got by itself, deleted rows included: 0 where the table numbers
-    // none, or the file does not tell.
+    // The last number that a row has got by itself, deleted rows included: 0 where the table
+    // numbers none, or the file does not tell.
     Long lastNumber() const { return definition_.lastNumber; }
 
     // All rows, each with the values of these columns. Their names match without regard to case;

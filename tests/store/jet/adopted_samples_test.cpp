@@ -33,8 +33,8 @@ class AdoptedSamples : public testing::Test {
     Rows& people() { return tables_[1].rows; }
     static Long idOf(const std::vector<Value>& person) { return person.front().toLong(); }
 
-    // What is described, as the store holds it: with a category for everybody, with no name in place
-    // of none, and without those who have no birth date.
+    // What is described, as the store holds it: with a category for everybody, with no name in
+    // place of none, and without those who have no birth date.
     Rows expectedPeople() {
         Rows expected = people();
         std::erase_if(expected, [](const auto& person) { return person[3].isNull(); });

@@ -108,15 +108,21 @@ TEST_F(ReplacementTest, TakesAFileOfOtherContentsAndTheSameSizeForAnother) {
 TEST_F(ReplacementTest, GoesRoundAFolderOfTheName) {
     QDir(folder_.path()).mkdir(QStringLiteral("a (Jet).mdb"));
     QDir(folder_.path()).mkdir(QStringLiteral("a (left out).txt"));
-    replace();
-    EXPECT_EQ(fileBytes(path("a (Jet 2).mdb")), kOld);
-    EXPECT_EQ(fileBytes(path("a (left out 2).txt")), "names");
+    const QByteArray asLarge(QFileInfo(path("a (Jet).mdb")).size(), 'x');
+    makeFile(path_, asLarge);
+    Replacement replacement(path_);
+    EXPECT_EQ(replacement.keepOld(QStringLiteral("Jet")), u"a (Jet 2).mdb");
+    EXPECT_EQ(replacement.addText(QStringLiteral("left out"), asLarge), u"a (left out 2).txt");
 }
 
 TEST_F(ReplacementTest, UsesOrRemovesWhatAStoppedOneLeft) {
     makeFile(path("a.mdb.new"), "half a file");
     makeFile(path("a.mdb.new-journal"), "its journal");
     makeFile(path("a.mdb.half"), "half a copy");
+    {
+        const Replacement replacement(path_);
+        EXPECT_EQ(files(), names({"a.mdb"}));
+    }
     replace();
     expectReplaced();
 
@@ -162,6 +168,16 @@ TEST_F(ReplacementTest, LeavesEverythingAsItWasWhereTheLastStepFails) {
     EXPECT_TRUE(descriptionOf(withoutNewFile).endsWith(QDir::toNativeSeparators(path_)));
     EXPECT_EQ(files(), names({"a.mdb"}));
     EXPECT_EQ(fileBytes(path_), kOld);
+}
+
+TEST_F(ReplacementTest, LeavesNoHalfCopy) {
+    const auto keepWhatIsGone = [this] {
+        Replacement replacement(path_);
+        QFile::remove(path_);
+        replacement.keepOld(QStringLiteral("Jet"));
+    };
+    EXPECT_EQ(errorOf(keepWhatIsGone), 75);
+    EXPECT_EQ(files(), QStringList());
 }
 
 TEST_F(ReplacementTest, GivesBothFilesThePermissionsOfTheOldOne) {

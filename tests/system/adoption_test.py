@@ -32,9 +32,7 @@ class Adoption(SystemTestCase):
 
         before = contents(self.program.folder)
         run = self.program.start()
-        window = self.main_window(run)
-        self.expect_chart(window)
-        self.quit(run, window)
+        self.quit(run, self.main_window(run))
         self.assertEqual(contents(self.program.folder), before)
 
     def test_on_a_full_disk_leaves_everything_as_it_was(self):

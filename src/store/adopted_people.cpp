@@ -39,7 +39,7 @@ void addCategories(const OldCategories& categories, NewDatabase& made) {
     RowAdder rows(made, statements::addCategory());
     for (const auto& [number, name] : categories.names())
         rows.add({number, name});
-    made.run(statements::raiseLastNumber(), {categories.largest(), QStringLiteral("Category")});
+    made.run(statements::setLastNumber(), {categories.largest(), QStringLiteral("Category")});
 }
 
 void addPerson(const OldPerson& person, const OldCategories& categories, RowAdder& rows) {
@@ -68,6 +68,6 @@ LeftOut addAdoptedPeople(const OldDatabase& old, NewDatabase& made) {
     if (isEmpty)
         throw old.error(ErrorNumber::Automation,
                         QStringLiteral("there is nobody with a birth date in it"));
-    made.run(statements::raiseLastNumber(), {numbers.largest(), peopleTable()});
+    made.run(statements::setLastNumber(), {numbers.largest(), peopleTable()});
     return leftOut;
 }

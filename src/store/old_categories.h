@@ -23,7 +23,7 @@ class OldCategories {
     // The name of the category with this CatID; "" if there is none.
     QString nameOf(const Value& catId) const;
 
-    // The largest number that a category has ever had, so far as the file tells.
+    // The largest number that a category has ever had, so far as the file tells; at least 0.
     Long largest() const { return largest_; }
 
   private:

@@ -8,7 +8,7 @@ RowNumbers::RowNumbers(const OldDatabase& database, QString table, QString field
     : database_(database),
       table_(std::move(table)),
       field_(std::move(field)),
-      largest_(database.lastNumber(table_)) {}
+      largest_(std::max(0, database.lastNumber(table_))) {}
 
 Long RowNumbers::take(const Value& number) {
     const Long taken = number.isNull() ? 0 : number.toLong();

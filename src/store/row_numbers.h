@@ -16,7 +16,7 @@ class RowNumbers {
     // The number of another row. Raises 321 where it is Null, 0, or that of a former row.
     Long take(const Value& number);
 
-    // The largest number that any row has had, so far as the file tells.
+    // The largest number that any row has had, so far as the file tells; at least 0.
     Long largest() const { return largest_; }
 
   private:

@@ -84,8 +84,8 @@ QString addInterpretation() {
         "INSERT OR IGNORE INTO HLC (Emot, Phys, Intel, interp) VALUES (?, ?, ?, ?)");
 }
 
-QString raiseLastNumber() {
-    return QStringLiteral("UPDATE sqlite_sequence SET seq = max(seq, ?) WHERE name = ?");
+QString setLastNumber() {
+    return QStringLiteral("UPDATE sqlite_sequence SET seq = ? WHERE name = ?");
 }
 
 }  // namespace statements

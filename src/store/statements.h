@@ -31,6 +31,6 @@ QString interpretation(Integer emotional, Integer physical, Integer intellectual
 QString addCategory();        // CatID, Category
 QString addPerson();          // NameID, Name, FName, Birthdate, Gender, CatID, Notes
 QString addInterpretation();  // Emot, Phys, Intel, interp; nothing where the table cannot hold it
-QString raiseLastNumber();    // the number that is no more to be used, and the table
+QString setLastNumber();      // the last number that must not be used again, and the table
 
 }  // namespace statements

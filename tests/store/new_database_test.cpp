@@ -28,7 +28,7 @@ TEST_F(NewDatabaseTest, HasItsRowsOnceTheyAreCommitted) {
     RowAdder rows(database, statements::addCategory());
     rows.add({3, QStringLiteral("Family")});
     rows.add({4, QStringLiteral("Friends")});
-    database.run(statements::raiseLastNumber(), {20, QStringLiteral("Category")});
+    database.run(statements::setLastNumber(), {20, QStringLiteral("Category")});
     database.commit();
     EXPECT_EQ(count(), Value(2));
     EXPECT_EQ(addCategory(path_, QStringLiteral("Work")), 21);

@@ -13,9 +13,11 @@ namespace {
 
 class RowNumbersTest : public testing::Test {
   protected:
-    RowNumbersTest() {
+    RowNumbersTest() { makeOld(10); }
+
+    void makeOld(int lastNumber) {
         BuiltTable people = oldPeople({});
-        people.lastNumber = 10;
+        people.lastNumber = lastNumber;
         makeFile(path_, builtJet(4, {people}).bytes);
     }
 
@@ -52,6 +54,13 @@ TEST_F(RowNumbersTest, KnowTheLargestThatAnyRowHasHad) {
     numbers().take(11);
     numbers().take(3);
     EXPECT_EQ(numbers().largest(), 11);
+}
+
+// The next number must not be 0.
+TEST_F(RowNumbersTest, HaveALargestThatIsNotBelowZero) {
+    makeOld(-7);
+    numbers().take(-3);
+    EXPECT_EQ(numbers().largest(), 0);
 }
 
 TEST_F(RowNumbersTest, AreNeverNullNorZero) {

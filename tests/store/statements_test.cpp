@@ -56,3 +56,13 @@ TEST(Statements, AreAllUnderstoodByTheStore) {
     Connection interpretations = openInterpretationDatabase();
     EXPECT_EQ(Recordset(interpretations, interpretation(1, 1, 1)).RecordCount(), 0);
 }
+
+TEST(Statements, WriteTheRowsOfOldDatabases) {
+    EXPECT_EQ(addCategory(), u"INSERT INTO Category (CatID, Category) VALUES (?, ?)");
+    EXPECT_EQ(addPerson(),
+              u"INSERT INTO Data (NameID, Name, FName, Birthdate, Gender, CatID, Notes) "
+              u"VALUES (?, ?, ?, ?, ?, ?, ?)");
+    EXPECT_EQ(addInterpretation(),
+              u"INSERT OR IGNORE INTO HLC (Emot, Phys, Intel, interp) VALUES (?, ?, ?, ?)");
+    EXPECT_EQ(setLastNumber(), u"UPDATE sqlite_sequence SET seq = ? WHERE name = ?");
+}

@@ -172,6 +172,12 @@ TEST_F(AdoptionTest, RefusesAReadOnlyFolder) {
     expectRefusal(75, "no journal can be made in its folder");
 }
 
+TEST_F(AdoptionTest, RefusesAFileThatCouldNotBeWorkedOnLater) {
+    makePeople(oldDatabase());
+    QDir(directory_.path({})).mkdir(QStringLiteral("Ondara2.mdb-journal"));
+    expectRefusal(75, "no journal can be made in its folder");
+}
+
 TEST_F(AdoptionTest, RefusesWhereTheNewFileCannotBeMade) {
     makePeople(oldDatabase());
     QDir(directory_.path({})).mkdir(QStringLiteral("Ondara2.mdb.new"));

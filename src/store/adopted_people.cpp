@@ -66,8 +66,8 @@ LeftOut addAdoptedPeople(const OldDatabase& old, NewDatabase& made) {
         isEmpty = false;
     }
     if (isEmpty)
-        throw old.error(ErrorNumber::Automation,
-                        QStringLiteral("there is nobody with a birth date in it"));
+        throw old.objection(ErrorNumber::Automation,
+                            QStringLiteral("there is nobody with a birth date in it"));
     made.run(statements::setLastNumber(), {numbers.largest(), peopleTable()});
     return leftOut;
 }

@@ -4,13 +4,11 @@
 #include <QString>
 #include <memory>
 
+#include "store/access.h"
+
 namespace SQLite {
 class Database;
 }
-
-// What a connection may do. A file opened to be read is never locked for writing, and may lie on a
-// medium or in a folder that cannot be written.
-enum class Access { Read, ReadWrite };
 
 // An open database file, closed when the connection goes. Every connection enforces the foreign
 // keys, writes durably (rollback journal, full synchronisation), waits a short while for another

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "runtime/errors.h"
-#include "store/connection.h"
+#include "store/access.h"
 
 // What the file system says of a path to one who reads it, or reads and writes.
 struct FileCondition {

@@ -52,8 +52,9 @@ void OldCategories::addMissing(const OldDatabase& database) {
 
 void OldCategories::addUnknown(const OldDatabase& database) {
     if (largest_ == std::numeric_limits<Long>::max())
-        throw database.error(ErrorNumber::Overflow,
-                             QStringLiteral("no CatID is left for the people without a category"));
+        throw database.objection(
+            ErrorNumber::Overflow,
+            QStringLiteral("no CatID is left for the people without a category"));
     unknown_ = ++largest_;
     names_[largest_] = QStringLiteral("Unknown");
 }

@@ -38,9 +38,9 @@ JetRows OldDatabase::rows(const QString& table, const std::vector<OldField>& fie
     QStringList names;
     for (const OldField& field : fields) {
         if (!fits(found, field))
-            throw error(ErrorNumber::TypeMismatch,
-                        QStringLiteral("field %1 of table %2 is of another type than in Ondara")
-                            .arg(field.name, table));
+            throw objection(ErrorNumber::TypeMismatch,
+                            QStringLiteral("field %1 of table %2 is of another type than in Ondara")
+                                .arg(field.name, table));
         names += field.name;
     }
     return found.rows(names);
@@ -50,6 +50,6 @@ Long OldDatabase::lastNumber(const QString& table) const {
     return file_.table(table).lastNumber();
 }
 
-RuntimeError OldDatabase::error(ErrorNumber number, const QString& cause) const {
+RuntimeError OldDatabase::objection(ErrorNumber number, const QString& cause) const {
     return fileError(number, cause, path_);
 }

@@ -29,7 +29,7 @@ class OldDatabase {
     Long lastNumber(const QString& table) const;
 
     // The error of that number, with the cause.
-    RuntimeError error(ErrorNumber number, const QString& cause) const;
+    RuntimeError objection(ErrorNumber number, const QString& cause) const;
 
   private:
     QString path_;

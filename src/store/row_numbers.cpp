@@ -13,10 +13,11 @@ RowNumbers::RowNumbers(const OldDatabase& database, QString table, QString field
 Long RowNumbers::take(const Value& number) {
     const Long taken = number.isNull() ? 0 : number.toLong();
     if (taken == 0)
-        throw database_.error(ErrorNumber::InvalidFileFormat,
-                              QStringLiteral("a row of table %1 has no %2").arg(table_, field_));
+        throw database_.objection(
+            ErrorNumber::InvalidFileFormat,
+            QStringLiteral("a row of table %1 has no %2").arg(table_, field_));
     if (!taken_.insert(taken).second)
-        throw database_.error(
+        throw database_.objection(
             ErrorNumber::InvalidFileFormat,
             QStringLiteral("two rows of table %1 have the %2 %3").arg(table_, field_).arg(taken));
     largest_ = std::max(largest_, taken);

@@ -23,6 +23,13 @@ QChar characterOfByte(std::uint8_t byte) {
     return QChar(kBetweenAsciiAndLatin[static_cast<std::size_t>(byte - kFirstBetween)]);
 }
 
+QString textOfBytes(QByteArrayView bytes) {
+    QString text(bytes.size(), Qt::Uninitialized);
+    std::transform(bytes.begin(), bytes.end(), text.begin(),
+                   [](char byte) { return characterOfByte(static_cast<std::uint8_t>(byte)); });
+    return text;
+}
+
 std::optional<std::uint8_t> byteOfCharacter(QChar character) {
     const char16_t unit = character.unicode();
     if (unit < kFirstBetween || (unit >= kFirstLatin && unit < kBytes))

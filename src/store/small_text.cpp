@@ -37,9 +37,5 @@ QByteArray encodeSmallText(const QString& text) {
 QString decodeSmallText(const QByteArray& bytes) {
     if (isReadAsUtf8(bytes))
         return QString::fromUtf8(bytes);
-    QString text;
-    text.reserve(bytes.size());
-    for (const char byte : bytes)
-        text += characterOfByte(static_cast<std::uint8_t>(byte));
-    return text;
+    return textOfBytes(bytes);
 }

@@ -19,6 +19,12 @@ TEST(CodePage, IsLatinButForThirtyTwoBytes) {
     EXPECT_EQ(characterOfByte(0xFC), u'ü');
 }
 
+TEST(CodePage, MakesATextOfBytes) {
+    EXPECT_EQ(textOfBytes("M\xFCller \x80"), u"Müller €");
+    EXPECT_EQ(textOfBytes({}), QString());
+    EXPECT_EQ(textOfBytes(QByteArrayView("a\0b", 3)).size(), 3);
+}
+
 TEST(CodePage, LacksWhatIsBeyondIt) {
     EXPECT_EQ(byteOfCharacter(u'Ч'), std::nullopt);
     EXPECT_EQ(byteOfCharacter(QChar(0x100)), std::nullopt);

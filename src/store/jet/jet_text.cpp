@@ -1,21 +1,12 @@
 // The decoding of jet_text.h.
 #include "store/jet/jet_text.h"
 
-#include <algorithm>
-
 #include "runtime/code_page.h"
 
 namespace {
 
 constexpr std::uint16_t kCompressed = 0xFEFF;
 constexpr qsizetype kUnit = 2;  // the bytes of a character
-
-QString textOfBytes(ByteView bytes) {
-    QString text(bytes.length(), Qt::Uninitialized);
-    std::transform(bytes.data(), bytes.data() + bytes.length(), text.begin(),
-                   [](char byte) { return characterOfByte(static_cast<std::uint8_t>(byte)); });
-    return text;
-}
 
 QString textOfUnits(ByteView bytes) {
     if (bytes.length() % kUnit != 0)
@@ -59,5 +50,6 @@ QString jetText(ByteView bytes, const JetFormat& format) {
 }
 
 QString jetName(ByteView bytes, const JetFormat& format) {
-    return format.version == kJet4.version ? textOfUnits(bytes) : textOfBytes(bytes);
+    return format.version == kJet4.version ? textOfUnits(bytes)
+                                           : textOfBytes({bytes.data(), bytes.length()});
 }

@@ -117,11 +117,3 @@ void repaintBands(GridCells& cells) {
     cells.setCellBackColor(kWhite);
     paintBands(cells);
 }
-
-Long numberOfCell(const QString& text) {
-    bool isNumber = false;
-    const Long number = text.toInt(&isNumber);
-    if (!isNumber)
-        throw RuntimeError(ErrorNumber::TypeMismatch);
-    return number;
-}

@@ -55,6 +55,3 @@ void paintBands(GridCells& cells);
 
 // The same again when columns have been moved: all cells white before.
 void repaintBands(GridCells& cells);
-
-// The number that a cell's text is. Raises 13 if it is none.
-Long numberOfCell(const QString& text);

@@ -4,6 +4,7 @@
 #include "records/explorer_cells.h"
 #include "records/frmZoom.h"
 #include "runtime/event.h"
+#include "runtime/numbers.h"
 #include "shell/frmWait.h"
 #include "store/databases.h"
 #include "store/list_fillers.h"
@@ -139,5 +140,5 @@ void frmExplore::MSHFlexGrid1_DragDrop() {
 void frmExplore::MSHFlexGrid1_DblClick() {
     Grid& grid = *ui_->MSHFlexGrid1;
     grid.change([](GridCells& cells) { cells.setCol(kHiddenColumn); });
-    showCard(numberOfCell(grid.cells().Text()), this);
+    showCard(wholeNumber(grid.cells().Text()), this);
 }

@@ -204,9 +204,3 @@ TEST(BirthdateText, HasTheMonthsShortNameAndNoLeadingZeros) {
     EXPECT_EQ(birthdateText(DateSerial(2000, 4, 1)), QStringLiteral("Apr 1, 2000"));
     EXPECT_EQ(birthdateText(DateSerial(1775, 12, 16)), QStringLiteral("Dec 16, 1775"));
 }
-
-TEST(NumberOfCell, RaisesAnErrorForATextThatIsNone) {
-    EXPECT_EQ(numberOfCell(QStringLiteral("4711")), 4711);
-    for (const char* other : {"", "Family", "1x"})
-        EXPECT_EQ(errorOf([&] { numberOfCell(QString::fromLatin1(other)); }), 13) << other;
-}

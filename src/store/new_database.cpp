@@ -1,17 +1,15 @@
 // The making of new_database.h.
 #include "store/new_database.h"
 
+#include "store/database_set_up.h"
 #include "store/sql_pieces.h"
 #include "store/sqlite_errors.h"
 
 namespace {
 
-// The foreign keys are in force before the transaction begins; within it they would stay as they
-// were.
 SQLite::Database created(const QString& path) {
     SQLite::Database database(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
-    database.exec("PRAGMA foreign_keys = ON");
-    database.exec("PRAGMA synchronous = FULL");
+    setUpDatabase(database);
     return database;
 }
 

@@ -114,9 +114,8 @@ Replacement::~Replacement() {
 }
 
 QString Replacement::keepOld(const QString& word) {
-    const QString name = nameFor(word, QFileInfo(path_).suffix(), [this](const QString& path) {
-        return haveSameBytes(path, path_);
-    });
+    QString name = nameFor(word, QFileInfo(path_).suffix(),
+                           [this](const QString& path) { return haveSameBytes(path, path_); });
     addUnlessThere(name, [this](QFile& copy) {
         QFile old(path_);
         openToRead(old);
@@ -141,8 +140,8 @@ QString Replacement::nameFor(const QString& word, const QString& suffix,
 }
 
 QString Replacement::addText(const QString& word, const QByteArray& bytes) {
-    const QString name = nameFor(word, QStringLiteral("txt"),
-                                 [&bytes](const QString& path) { return hasBytes(path, bytes); });
+    QString name = nameFor(word, QStringLiteral("txt"),
+                           [&bytes](const QString& path) { return hasBytes(path, bytes); });
     addUnlessThere(name, [&bytes](QFile& file) { writeBlock(file, bytes); });
     return name;
 }

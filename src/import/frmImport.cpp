@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include "controls/file_dialog.h"
+#include "controls/label_room.h"
 #include "import/import_rows.h"
 #include "runtime/event.h"
 #include "runtime/host.h"
@@ -39,10 +40,8 @@ void frmImport::setUpControls() {
 // The step of the editing says most. Where its words have room, no step with such words moves the
 // controls below them.
 void frmImport::reserveRoomForGuidance() {
-    const QRect room(0, 0, ui_->stkSteps->minimumWidth(), QWIDGETSIZE_MAX);
-    const QString guidance = *importing::step(importing::kEditing).guidance;
-    ui_->lblIntro->setMinimumHeight(
-        fontMetrics().boundingRect(room, Qt::TextWordWrap, guidance).height());
+    reserveRoom(*ui_->lblIntro, *importing::step(importing::kEditing).guidance,
+                ui_->stkSteps->minimumWidth());
 }
 
 void frmImport::connectEvents() {
@@ -175,10 +174,11 @@ void frmImport::FillImportList() {
 }
 
 bool frmImport::isAnyoneUnassigned() const {
-    int row = ui_->lvImport->ListCount();
-    while (row > 0 && !isUnassigned(ui_->lvImport->ListItem(row)))
-        --row;
-    return row > 0;
+    for (int row = 1; row <= ui_->lvImport->ListCount(); ++row) {
+        if (isUnassigned(ui_->lvImport->ListItem(row)))
+            return true;
+    }
+    return false;
 }
 
 void frmImport::lvImport_ItemClick(int row) {

@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "controls/label_room.h"
 #include "records/new_records.h"
 #include "runtime/event.h"
 #include "runtime/host.h"
@@ -33,10 +34,8 @@ frmAddNew::~frmAddNew() = default;
 
 // The first step says most. Where its words have room, no step moves the controls below them.
 void frmAddNew::reserveRoomForGuidance() {
-    const QRect room(0, 0, ui_->stkSteps->minimumWidth(), QWIDGETSIZE_MAX);
-    const QString& guidance = wizard::step(wizard::kName).guidance;
-    ui_->lblIntro->setMinimumHeight(
-        fontMetrics().boundingRect(room, Qt::TextWordWrap, guidance).height());
+    reserveRoom(*ui_->lblIntro, wizard::step(wizard::kName).guidance,
+                ui_->stkSteps->minimumWidth());
 }
 
 void frmAddNew::connectEvents() {

@@ -5,9 +5,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <QDir>
-
 #include "store/adoption.h"
+#include "support/files.h"
 #include "support/old_tables.h"
 #include "support/people.h"
 #include "support/printing.h"
@@ -40,11 +39,6 @@ End adoptAndKillAfter(int calls) {
     kill(process, SIGKILL);
     waitpid(process, &status, 0);
     return End::Killed;
-}
-
-QStringList filesIn(const QString& folder) {
-    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
-                                  QDir::Name);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "store/recordset.h"
 #include "store/statements.h"
 #include "support/errors.h"
+#include "support/files.h"
 #include "support/old_tables.h"
 #include "support/people.h"
 #include "support/printing.h"
@@ -22,10 +23,7 @@ class AdoptionTest : public testing::Test {
   protected:
     QString path(const char* name) const { return directory_.path(QLatin1String(name)); }
 
-    QStringList files() const {
-        return QDir(directory_.path({}))
-            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-    }
+    QStringList files() const { return filesIn(directory_.path({})); }
 
     static QStringList names(std::initializer_list<const char*> names) {
         QStringList all;

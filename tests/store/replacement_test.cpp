@@ -18,10 +18,7 @@ class ReplacementTest : public testing::Test {
 
     QString path(const char* name) const { return folder_.filePath(QLatin1String(name)); }
 
-    QStringList files() const {
-        return QDir(folder_.path())
-            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-    }
+    QStringList files() const { return filesIn(folder_.path()); }
 
     static QStringList names(std::initializer_list<const char*> names) {
         QStringList all;

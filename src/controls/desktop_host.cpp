@@ -148,7 +148,9 @@ std::optional<ChosenFile> DesktopHost::chooseFile(const FileQuestion& question) 
                                                                : QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
-    dialog.setNameFilters(nameFilters(question.filters));
+    const QStringList filters = nameFilters(question.filters);
+    dialog.setNameFilters(filters);
+    dialog.selectNameFilter(filters.value(question.filterIndex - 1));
     if (!question.fileName.isEmpty())
         dialog.selectFile(question.fileName);
     dialog.setDefaultSuffix(question.defaultExtension);

@@ -29,8 +29,9 @@ void FileDialog::show(FilePurpose purpose) {
         host().chooseFile({.purpose = purpose,
                            .title = title_,
                            .folder = folder_,
-                           .fileName = proposedName_,
+                           .fileName = fileName_,
                            .filters = filters_,
+                           .filterIndex = filterIndex_,
                            .defaultExtension = defaultExtension_,
                            .asksBeforeOverwriting = (flags_ & kOverwritePrompt) != 0,
                            .owner = parent()});

@@ -10,8 +10,9 @@
 
 class QWidget;
 
-// What was answered last stays: a dialog that the user cancels changes nothing. At first no filter
-// has been chosen and there is no name. A file of the name need not exist.
+// What was answered last stays, and is proposed when the dialog is shown again: a dialog that the
+// user cancels changes nothing. At first no filter has been chosen and there is no name but one that
+// was set. A file of the name need not exist.
 class FileDialog final : public QObject {
     Q_OBJECT
 
@@ -23,9 +24,6 @@ class FileDialog final : public QObject {
 
     void setDialogTitle(const QString& title) { title_ = title; }
     void setInitDir(const QString& folder) { folder_ = folder; }
-
-    // The name that the user is offered whenever the dialog is shown.
-    void setProposedName(const QString& name) { proposedName_ = name; }
 
     // Captions and patterns in turn: "Rich Text (*.rtf)|*.rtf|All files (*.*)|*.*".
     void setFilter(const QString& filter);
@@ -39,6 +37,7 @@ class FileDialog final : public QObject {
 
     // The filter that was chosen, counted from 1; 0 for none.
     int FilterIndex() const { return filterIndex_; }
+    void setFileName(const QString& name) { fileName_ = name; }
     const QString& FileName() const { return fileName_; }
 
     void ShowOpen();
@@ -49,7 +48,6 @@ class FileDialog final : public QObject {
 
     QString title_;
     QString folder_;
-    QString proposedName_;
     std::vector<FileFilter> filters_;
     QString defaultExtension_;
     Long flags_ = 0;

@@ -29,7 +29,7 @@ frmImport::~frmImport() = default;
 void frmImport::setUpControls() {
     cdgImport_->setObjectName(QStringLiteral("cdgImport"));
     cdgImport_->setDialogTitle(QStringLiteral("Locate Names.mdb"));
-    cdgImport_->setProposedName(QStringLiteral("names.mdb"));
+    cdgImport_->setFileName(QStringLiteral("names.mdb"));
     cdgImport_->setFilter(QStringLiteral("Ondara 1.0 database|names.mdb"));
     ui_->txtPath->setLocked(true);
     ui_->lvImport->setCheckBoxes(true);

@@ -21,7 +21,8 @@ struct FileQuestion {
     QString title = {};
     QString folder = {};                   // that the user begins in
     QString fileName = {};                 // that is proposed
-    std::vector<FileFilter> filters = {};  // the first one is chosen at first
+    std::vector<FileFilter> filters = {};
+    int filterIndex = 0;                   // of the one that is proposed, from 1; 0 is the first
     QString defaultExtension = {};         // of a name that has none, without its full stop
     bool asksBeforeOverwriting = false;
     QObject* owner = nullptr;  // the window that waits for the answer

@@ -143,6 +143,19 @@ TEST_F(DesktopHostTest, ProposesANameThatNeedNotBeThatOfAFile) {
     EXPECT_EQ(file->path, folder_.filePath(QStringLiteral("names.mdb")));
 }
 
+TEST_F(DesktopHostTest, ProposesAFileAndAFilterOfThoseThereAre) {
+    const QTemporaryDir other;
+    FileQuestion question = saving();
+    question.fileName = QDir(other.path()).filePath(QStringLiteral("report.txt"));
+    for (int filter = 1; filter <= 2; ++filter) {
+        question.filterIndex = filter;
+        const auto file = chosen(question, "accept", [](const QFileDialog&) {});
+        ASSERT_TRUE(file);
+        EXPECT_EQ(file->path, question.fileName);
+        EXPECT_EQ(file->filterIndex, filter);
+    }
+}
+
 TEST_F(DesktopHostTest, CopiesABitmapForItselfAndOthers) {
     const QByteArray file = bitmapOf(redPicture());
     host_.setClipboardBitmap(file);

@@ -76,15 +76,16 @@ TEST_F(FileDialogTest, KeepsTheLastAnswerWhenItIsCancelled) {
     EXPECT_EQ(dialog_.FileName(), kNotes.path);
 }
 
-TEST_F(FileDialogTest, ProposesTheSameNameEveryTime) {
-    dialog_.setProposedName(QStringLiteral("names.mdb"));
+TEST_F(FileDialogTest, ProposesTheNameThatItWasGivenAndThenTheLastAnswer) {
+    dialog_.setFileName(QStringLiteral("names.mdb"));
     host_.expectFileQuestion(kNotes);
     dialog_.ShowOpen();
     EXPECT_EQ(asked().fileName, u"names.mdb");
+    EXPECT_EQ(asked().filterIndex, 0);
     host_.expectFileQuestion(std::nullopt);
     dialog_.ShowOpen();
-    EXPECT_EQ(asked().fileName, u"names.mdb");
-    EXPECT_EQ(dialog_.FileName(), kNotes.path);
+    EXPECT_EQ(asked().fileName, kNotes.path);
+    EXPECT_EQ(asked().filterIndex, 2);
 }
 
 TEST_F(FileDialogTest, RaisesAnErrorWhenItIsCancelledWhereItIsToldTo) {

@@ -395,8 +395,7 @@ class Builder {
         bytes[0] = 2;
         bytes[1] = 1;
         put(bytes, is4_ ? 16 : 12, count);
-        if (is4_)
-            put(bytes, 20, table.lastNumber);
+        put(bytes, is4_ ? 20 : 16, table.lastNumber);
         bytes[is4_ ? 40 : 20] = 0x4E;
         put(bytes, is4_ ? 41 : 21, columns);
         put(bytes, is4_ ? 43 : 23, static_cast<std::uint16_t>(variables));

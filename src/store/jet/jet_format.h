@@ -16,7 +16,7 @@ struct JetFormat {
 
     // In a table's definition.
     int rowsInTable;
-    int lastNumber;  // 0 where the format is not known to tell it
+    int lastNumber;
     int mostColumns;
     int variableColumns;
     int columnCount;
@@ -44,7 +44,7 @@ inline constexpr JetFormat kJet3{.version = 3,
                                  .rowCount = 8,
                                  .slots = 10,
                                  .rowsInTable = 12,
-                                 .lastNumber = 0,
+                                 .lastNumber = 16,
                                  .mostColumns = 21,
                                  .variableColumns = 23,
                                  .columnCount = 25,

@@ -85,9 +85,7 @@ std::int32_t lastNumberOf(ByteView definition, const std::vector<JetColumn>& col
                           const JetFormat& format) {
     const bool numbersRows = std::any_of(columns.begin(), columns.end(),
                                          [](const JetColumn& column) { return column.isAuto; });
-    return format.lastNumber != 0 && numbersRows
-               ? definition.numberAt<std::int32_t>(format.lastNumber)
-               : 0;
+    return numbersRows ? definition.numberAt<std::int32_t>(format.lastNumber) : 0;
 }
 
 // Whether two columns claim the same bit or bytes of a row.

@@ -39,9 +39,8 @@ struct JetColumn {
 struct TableDefinition {
     std::uint32_t page;
     std::uint32_t rows;
-    std::int32_t
-        lastNumber;   // that a row got by itself; 0 where none did, or the file does not tell
-    int mostColumns;  // that a row can have
+    std::int32_t lastNumber;  // that a row got by itself; 0 where the file tells of none
+    int mostColumns;          // that a row can have
     bool hasVariableColumns;
     JetPointer usageMap;
     std::vector<JetColumn> columns;  // in the order in which they were made

@@ -7,6 +7,12 @@
 #include "store/jet/jet_errors.h"
 #include "store/jet/jet_header.h"
 
+namespace {
+
+constexpr qint64 kMostPages = qint64{1} << 24;  // that pointers to rows tell apart
+
+}  // namespace
+
 JetPages::JetPages(std::unique_ptr<QIODevice> device, QString path)
     : device_(std::move(device)),
       path_(std::move(path)),
@@ -14,6 +20,8 @@ JetPages::JetPages(std::unique_ptr<QIODevice> device, QString path)
       format_(formatOfHeader(read(0, std::min<qint64>(kJetHeader, bytes_)))) {
     if (bytes_ % format_.pageSize != 0)
         throw JetDamage(QStringLiteral("it is cut short"));
+    if (bytes_ / format_.pageSize > kMostPages)
+        throw JetDamage(QStringLiteral("it is larger than a Jet file can be"));
 }
 
 QByteArray JetPages::page(std::uint32_t number, JetPageType type) {

@@ -32,6 +32,19 @@ class FailingBuffer : public QBuffer {
     bool fails_ = false;
 };
 
+// A file of that many bytes, of which the first can be read.
+class HugeBuffer : public QBuffer {
+  public:
+    HugeBuffer(const QByteArray& bytes, qint64 size) : size_(size) {
+        setData(bytes);
+        open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    }
+    qint64 size() const override { return size_; }
+
+  private:
+    qint64 size_;
+};
+
 // A file with many pages behind those of a database; each is of rows and begins with its number.
 class JetPagesTest : public testing::TestWithParam<int> {
   protected:
@@ -105,6 +118,17 @@ TEST_P(JetPagesTest, EndWhereTheFileEnds) {
         failureOf([&] { page(kMore); }),
         QStringLiteral("the file is damaged, page %1 lies beyond its end").arg(first_ + kMore));
     EXPECT_NE(failureOf([&] { pages_->page(0xFFFFFFFF, JetPageType::Rows); }), QString());
+}
+
+TEST_P(JetPagesTest, AreNoMoreThanPointersCanTellApart) {
+    const QByteArray bytes = builtJet(GetParam(), {}).bytes;
+    const qint64 most = (qint64{1} << 24) * pages_->format().pageSize;
+    const auto open = [&bytes](qint64 size) {
+        JetPages(std::make_unique<HugeBuffer>(bytes, size), QStringLiteral("name"));
+    };
+    EXPECT_EQ(failureOf([&] { open(most); }), QString());
+    EXPECT_EQ(failureOf([&] { open(most + pages_->format().pageSize); }),
+              QStringLiteral("the file is damaged, it is larger than a Jet file can be"));
 }
 
 TEST_P(JetPagesTest, ThatTheSystemDoesNotReadRaiseItsError) {

@@ -70,6 +70,9 @@ QByteArray longValue(ByteView field, JetPages& pages, ReadAllowance& allowance) 
     if (field.length() == 0)
         return {};
     const auto header = field.numberAt<std::uint32_t>(0);
+    // One of no bytes need not lead to any.
+    if ((header & (kInField | kLength)) == 0)
+        return {};
     QByteArray bytes = bytesOf(field, header, pages, allowance);
     if (bytes.size() != static_cast<qsizetype>(header & kLength))
         throw JetDamage(QStringLiteral("a long value has not its length"));

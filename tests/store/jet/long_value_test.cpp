@@ -60,6 +60,11 @@ TEST_P(LongValues, WithoutAFieldAreEmpty) {
     EXPECT_FALSE(isDamaged(QByteArray::fromHex("000000000000000000000000")));
 }
 
+TEST_P(LongValues, OfNoBytesAreNotLookedFor) {
+    EXPECT_FALSE(isDamaged(QByteArray::fromHex("000000000001000000000000")));
+    EXPECT_FALSE(isDamaged(QByteArray::fromHex("000000400001000000000000")));
+}
+
 TEST_P(LongValues, HaveTheLengthThatTheyTell) {
     EXPECT_FALSE(isDamaged(QByteArray::fromHex("0200008000000000000000004142")));
     EXPECT_TRUE(isDamaged(QByteArray::fromHex("0100008000000000000000004142")));
@@ -75,7 +80,7 @@ TEST_P(LongValues, LieOnPagesOfTheirOwn) {
     EXPECT_TRUE(isDamaged(QByteArray::fromHex("020000000001000000000000")));
 }
 
-TEST_P(LongValues, OfNoneThatIsDeletedAreRead) {
+TEST_P(LongValues, ThatAreDeletedOrHaveMovedAreErrors) {
     BuiltTable table{text("T"), {{text("Memo"), JetType::Memo}}, {{{longText(200)}}}};
     BuiltJet jet = builtJet(GetParam(), {table});
     const qsizetype slot =

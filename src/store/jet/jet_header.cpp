@@ -91,15 +91,13 @@ bool hasPassword(ByteView header, const JetFormat& format) {
 }  // namespace
 
 bool isJet(const QByteArray& beginning) {
-    return beginning.mid(kSignature).startsWith("Standard Jet DB");
+    const QByteArray signature = beginning.mid(kSignature);
+    return signature.startsWith("Standard Jet DB") || signature.startsWith("Standard ACE DB");
 }
 
 const JetFormat& formatOfHeader(const QByteArray& header) {
-    if (!isJet(header)) {
-        if (header.mid(kSignature).startsWith("Standard ACE DB"))
-            refuse(QStringLiteral("it is of another version of Jet than 3 and 4"));
+    if (!isJet(header))
         refuse(QStringLiteral("it is no Jet database"));
-    }
     const JetFormat& format = formatOfVersion(ByteView(header).numberAt<std::uint8_t>(kVersion));
     const QByteArray plain = decoded(header, format);
     const ByteView view(plain);

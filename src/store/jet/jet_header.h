@@ -8,7 +8,8 @@
 // The bytes of the beginning that tell whether a file is a Jet file.
 inline constexpr int kJetSignature = 19;
 
-// Whether a file that begins with these bytes is a Jet file, of whatever version.
+// Whether a file that begins with these bytes is a Jet file, of whatever version. Later ones are
+// called ACE.
 bool isJet(const QByteArray& beginning);
 
 // The bytes of the header.

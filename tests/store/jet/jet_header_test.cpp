@@ -63,6 +63,8 @@ TEST(JetHeader, OfAnotherVersionIsRefused) {
     }
     QByteArray header = headerOf(4);
     header.replace("Standard Jet DB", "Standard ACE DB");
+    header[0x14] = 2;
+    EXPECT_TRUE(isJet(header));
     EXPECT_EQ(refusalOf(header), other);
 }
 

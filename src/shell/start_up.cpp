@@ -2,6 +2,7 @@
 #include "shell/start_up.h"
 
 #include "runtime/app.h"
+#include "runtime/event.h"
 #include "runtime/host.h"
 #include "shell/default_instance.h"
 #include "shell/frmMain.h"
@@ -18,9 +19,10 @@ void refuseSecondInstance() {
                         .icon = MessageIcon::Exclamation});
 }
 
-// The databases are such as the rest of the program can read from here on.
+// The people can be worked on from here on. The texts are only ever read: where theirs cannot be
+// adopted, whoever needs one reads it in the old file, or is told there what is wrong with that.
 void adoptOldDatabases(QObject* owner) {
-    adoptInterpretations();
+    resumingNext(adoptInterpretations);
     const std::optional<Adoption> people = adoptPeople();
     if (people && !people->leftOut.isEmpty())
         host().showMessage({.text = people->leftOut.message(people->leftOutName, people->oldName),

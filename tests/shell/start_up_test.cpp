@@ -11,6 +11,8 @@
 #include "shell/default_instance.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
+#include "store/interpretation.h"
+#include "support/errors.h"
 #include "support/files.h"
 #include "support/main_window.h"
 #include "support/old_tables.h"
@@ -126,6 +128,29 @@ TEST_F(StartUp, LoadsNothingWhereAnOldDatabaseCannotBeAdopted) {
     EXPECT_THROW(modCycles::Main(), RuntimeError);
     EXPECT_EQ(loadedForms(), QStringList(QStringLiteral("frmSplash")));
     EXPECT_EQ(fileBytes(directory_.people()), damaged);
+}
+
+// They can be read where they are.
+TEST_F(StartUp, LeavesOldTextsThatCannotBeAdoptedAsTheyAre) {
+    const QByteArray old =
+        builtJet(4, {oldInterpretations({{{1, 0, -1, QStringLiteral("High.")}}})}).bytes;
+    makeFile(directory_.interpretation(), old);
+    QDir(directory_.path({})).mkdir(QStringLiteral("Interp.mdb.new"));
+    modCycles::Main();
+    EXPECT_EQ(loadedForms(), QStringList(QStringLiteral("frmMain")));
+    EXPECT_EQ(fileBytes(directory_.interpretation()), old);
+    EXPECT_EQ(readInterpretation(1, 0, -1), Value(QStringLiteral("High.")));
+}
+
+TEST_F(StartUp, LeavesDamagedOldTextsToWhoeverNeedsOne) {
+    const QByteArray damaged =
+        builtJet(4, {oldInterpretations({{{1, 0, -1, QStringLiteral("High.")}}})})
+            .bytes.chopped(4096);
+    makeFile(directory_.interpretation(), damaged);
+    modCycles::Main();
+    EXPECT_EQ(loadedForms(), QStringList(QStringLiteral("frmMain")));
+    EXPECT_EQ(fileBytes(directory_.interpretation()), damaged);
+    EXPECT_EQ(errorOf([] { readInterpretation(1, 0, -1); }), 321);
 }
 
 TEST_F(StartUp, RefusesASecondInstanceAndLoadsNothing) {

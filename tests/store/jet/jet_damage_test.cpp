@@ -54,11 +54,30 @@ class DamagedJet : public testing::TestWithParam<int> {
     bool is4() const { return GetParam() == 4; }
     qsizetype slots() const { return is4() ? 14 : 10; }
 
+    int rowsOn(std::uint32_t page) const {
+        return qFromLittleEndian<std::uint16_t>(jet_.bytes.constData() +
+                                                jet_.place(page, is4() ? 12 : 8));
+    }
+
+    // What the page says of where a row is.
+    std::uint16_t slot(std::uint32_t page, int row) const {
+        return qFromLittleEndian<std::uint16_t>(jet_.bytes.constData() +
+                                                jet_.place(page, slots() + 2 * row));
+    }
+
     // The place of a row of a page of the table.
     qsizetype rowPlace(std::uint32_t page, int row) const {
-        const qsizetype slot = jet_.place(page, slots() + 2 * row);
-        return jet_.place(page,
-                          qFromLittleEndian<std::uint16_t>(jet_.bytes.constData() + slot) & 0x1FFF);
+        return jet_.place(page, slot(page, row) & 0x1FFF);
+    }
+
+    void expectMoreThanTheFile(const QStringList& columns) const {
+        QElapsedTimer timer;
+        timer.start();
+        EXPECT_EQ(
+            descriptionOf([&] { rowsOf(JetFile(jet_.bytes, text("name")), "Data", columns); }),
+            text("Invalid file format: the file is damaged, its rows hold more than the whole "
+                 "file, name"));
+        EXPECT_LT(timer.elapsed(), kPatience);
     }
 
     BuiltJet jet_ = builtJet(GetParam(), {builtPeople()});
@@ -292,22 +311,30 @@ TEST_P(DamagedJet, GivesNoMoreThanItHolds) {
     const int size = is4() ? 2 : 1;
     const qsizetype fields = size + 4 + 8;
     // The last row of the last page is the one with the large memo.
-    const qsizetype lastRows = jet_.place(places().rows.back(), is4() ? 12 : 8);
-    const int count = qFromLittleEndian<std::uint16_t>(jet_.bytes.constData() + lastRows);
-    const QByteArray memo = jet_.bytes.mid(rowPlace(places().rows.back(), count - 1) + fields, 12);
+    const std::uint32_t last = places().rows.back();
+    const QByteArray memo = jet_.bytes.mid(rowPlace(last, rowsOn(last) - 1) + fields, 12);
     for (const std::uint32_t page : places().rows) {
-        const int rows = qFromLittleEndian<std::uint16_t>(jet_.bytes.constData() +
-                                                          jet_.place(page, is4() ? 12 : 8));
-        for (int row = 0; row < rows; ++row)
+        for (int row = 0; row < rowsOn(page); ++row)
             jet_.bytes.replace(rowPlace(page, row) + fields, 12, memo);
     }
-    QElapsedTimer timer;
-    timer.start();
-    EXPECT_EQ(
-        descriptionOf([&] { rowsOf(JetFile(jet_.bytes, text("name")), "Data", peopleColumns()); }),
-        text("Invalid file format: the file is damaged, its rows hold more than the whole "
-             "file, name"));
-    EXPECT_LT(timer.elapsed(), kPatience);
+    expectMoreThanTheFile(peopleColumns());
+}
+
+// Every row that has moved leads to the same place, that of the longest.
+TEST_P(DamagedJet, GivesNoRowAgainAndAgain) {
+    BuiltTable table{text("Data"), {{text("Text"), JetType::Text, 255}}, {}};
+    table.rows.push_back({{longText(250)}, BuiltRow::Moved});
+    while (table.rows.size() < 2000)
+        table.rows.push_back({{text("a")}, BuiltRow::Moved});
+    jet_ = builtJet(GetParam(), {table});
+    const QByteArray longest = jet_.bytes.mid(rowPlace(places().rows.front(), 0), 4);
+    for (const std::uint32_t page : places().rows) {
+        for (int row = 0; row < rowsOn(page); ++row) {
+            if (slot(page, row) >> 14 == 1)
+                jet_.bytes.replace(rowPlace(page, row), 4, longest);
+        }
+    }
+    expectMoreThanTheFile({text("Text")});
 }
 
 TEST_P(DamagedJet, IsReadOrRefusedHoweverItIsDamaged) {

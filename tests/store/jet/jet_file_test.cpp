@@ -151,6 +151,33 @@ TEST_P(JetFiles, WithACatalogThatMakesNoSenseAreRefused) {
               text("Invalid file format: the file is damaged, its catalog makes no sense, name"));
 }
 
+// Every one of them would be kept.
+TEST_P(JetFiles, WithMoreTablesThanThereCanBeAreRefused) {
+    const auto entryOf = [](int id) { return BuiltRow{{id, text("T"), 1, 0}}; };
+    BuiltTable catalog{text("Catalog"),
+                       {{text("Id"), JetType::Int32},
+                        {text("Name"), JetType::Text, 9},
+                        {text("Type"), JetType::Int16},
+                        {text("Flags"), JetType::Int32}},
+                       {}};
+    catalog.hasLargeMap = true;
+    for (const int more : {0, 1}) {
+        while (catalog.rows.size() < static_cast<std::size_t>(32'768 + more))
+            catalog.rows.push_back(entryOf(3));
+        BuiltJet jet = builtJet(GetParam(), {catalog});
+        // The table takes the place of the file's own catalog.
+        const BuiltPlaces& places = jet.tables.front();
+        for (const std::uint32_t page : places.rows)
+            jet.bytes[jet.place(page, 4)] = 2;
+        jet.bytes.replace(jet.place(2), jet.pageSize,
+                          jet.bytes.mid(jet.place(places.definition), jet.pageSize));
+        EXPECT_EQ(descriptionOf([&] { JetFile(jet.bytes, text("name")); }),
+                  more == 0 ? QString()
+                            : text("Invalid file format: the file is damaged, its catalog has no "
+                                   "end, name"));
+    }
+}
+
 // The other one does not tell Null from "", and puts rows that have moved where they lie.
 TEST_P(JetFiles, HoldWhatAnotherReaderFindsInThem) {
     SKIP_WITHOUT("mdb-export");

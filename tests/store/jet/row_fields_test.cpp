@@ -104,6 +104,9 @@ TEST_P(RowFieldsOf, DamagedRowsAreErrors) {
     };
     const qsizetype count = 1 + size();
     EXPECT_EQ(with(row, 3), text("a row has more columns than its table, name"));
+    if (is4()) {
+        EXPECT_EQ(with(count - 1, 1), text("a row has 257 fields, name"));
+    }
     EXPECT_EQ(with(count, 0), text("a row lacks a field, name"));
     EXPECT_EQ(with(count, 20), text("something in it breaks off, name"));
     EXPECT_EQ(with(count + size(), 2), text("a row is shorter than its fields, name"));

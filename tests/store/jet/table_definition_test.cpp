@@ -86,6 +86,28 @@ TEST_P(Definitions, ThatContradictThemselvesAreErrors) {
     EXPECT_EQ(errorWith(0, 1), text("page 3 is not of the kind that it should be, name"));
 }
 
+TEST_P(Definitions, NeedNotTellTheSizesOfNumbers) {
+    BuiltTable table{text("T"), {}, {}};
+    BuiltRow numbers;
+    QStringList names;
+    for (const JetType type :
+         {JetType::Boolean, JetType::Byte, JetType::Int16, JetType::Int32, JetType::Single,
+          JetType::Currency, JetType::Double, JetType::Date}) {
+        names += QString::number(static_cast<int>(type));
+        table.columns.push_back({names.back(), type});
+        const bool isWhole = type >= JetType::Byte && type <= JetType::Int32;
+        numbers.values.push_back(type == JetType::Boolean ? Value(true)
+                                 : isWhole                ? Value(7)
+                                                          : Value(1.5));
+    }
+    table.rows.push_back(numbers);
+    BuiltJet jet = builtJet(GetParam(), {table});
+    const qsizetype definition = jet.place(jet.tables.front().definition);
+    for (int i = 0; i < names.size(); ++i)
+        jet.bytes[definition + column(i, 16, 23)] = 0;
+    EXPECT_EQ(rowsOf(JetFile(jet.bytes, text("name")), "T", names), liveRows(table));
+}
+
 TEST_P(Definitions, TellTheLastNumberThatARowGotByItself) {
     BuiltTable table = builtPeople();
     table.lastNumber = 8;

@@ -1,10 +1,13 @@
 // A list on the screen of which the user may select any number of entries, by their check boxes.
 #pragma once
 
+#include <QKeyEvent>
+
 #include "controls/list_box.h"
 
 // A click on a check box, and the space bar on the entry of the focus, select the entry or take its
-// selection away. ListIndex tells of the highlighted entry alone, as in any other list box.
+// selection away, and highlight it. ListIndex tells of the highlighted entry alone, as in any other
+// list box.
 class CheckListBox final : public ListBox {
     Q_OBJECT
 
@@ -18,4 +21,12 @@ class CheckListBox final : public ListBox {
     void setSelected(int index, bool selected) { entryModel().setSelected(index, selected); }
 
     void setAllSelected(bool selected) { entryModel().setAllSelected(selected); }
+
+  protected:
+    // Highlighted by then, the entry is the one that the next arrow key leads on from.
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Space)
+            setCurrentIndex(currentIndex());
+        ListBox::keyPressEvent(event);
+    }
 };

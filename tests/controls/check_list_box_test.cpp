@@ -68,6 +68,18 @@ TEST_F(CheckListBoxTest, SelectsByTheSpaceBar) {
     EXPECT_EQ(selected(), std::vector({true, false, false}));
 }
 
+TEST_F(CheckListBoxTest, HighlightsByTheSpaceBarWhatTheNextArrowKeyLeadsOnFrom) {
+    EXPECT_EQ(list_.ListIndex(), -1);
+    pressKey(list_, Qt::Key_Space);
+    EXPECT_EQ(list_.ListIndex(), 0);
+    pressKey(list_, Qt::Key_Down);
+    pressKey(list_, Qt::Key_Space);
+    EXPECT_EQ(selected(), std::vector({true, true, false}));
+    list_.Clear();
+    pressKey(list_, Qt::Key_Space);
+    EXPECT_EQ(list_.ListIndex(), -1);
+}
+
 TEST_F(CheckListBoxTest, SelectsByCode) {
     list_.setSelected(1, true);
     EXPECT_EQ(selected(), std::vector({false, true, false}));

@@ -71,11 +71,17 @@ ListView::ListView(QWidget* parent) : QTreeView(parent) {
 void ListView::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (isEnter && currentIndex().isValid())
-        Q_EMIT ItemClick(currentIndex().row());
+        choose(currentIndex());
     else if (event->key() == Qt::Key_Space && model_.hasCheckBoxes() && currentIndex().isValid())
         toggle(currentIndex().siblingAtColumn(0));
     else
         QTreeView::keyPressEvent(event);
+}
+
+// As a click does, it selects the row.
+void ListView::choose(const QModelIndex& row) {
+    setCurrentIndex(row);
+    Q_EMIT ItemClick(row.row());
 }
 
 void ListView::toggle(const QModelIndex& box) {

@@ -59,6 +59,7 @@ class ListView final : public QTreeView {
   private:
     void beginAtFirstRow();
     int placeOf(int index) const;
+    void choose(const QModelIndex& row);
     void toggle(const QModelIndex& box);
     void setSorting(const ListSorting& sorting);
     void showSorting();

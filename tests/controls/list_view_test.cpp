@@ -107,6 +107,12 @@ TEST_F(ListViewTest, TellsWhichRowIsChosenByEnter) {
     EXPECT_EQ(clickedRows_.size(), 2u);
 }
 
+TEST_F(ListViewTest, SelectsTheRowThatIsChosenByEnter) {
+    pressKey(view_, Qt::Key_Return);
+    EXPECT_EQ(clickedRows_, std::vector{0});
+    EXPECT_EQ(selectedRows(), QModelIndexList{view_.model()->index(0, 0)});
+}
+
 TEST_F(ListViewTest, ReadsChangesAndRemovesRowsCountedFromOne) {
     EXPECT_EQ(view_.ListCount(), 3);
     EXPECT_EQ(view_.ListItem(1).texts.first(), QStringLiteral("Zed"));

@@ -5,6 +5,7 @@
 #include "commands.h"
 #include "controls/desktop_host.h"
 #include "controls/form.h"
+#include "controls/visible_boxes.h"
 #include "runtime/event.h"
 #include "shell/default_instance.h"
 #include "shell/frmMain.h"
@@ -13,6 +14,7 @@
 int main(int, char** arguments) {
     int argumentCount = 1;  // the program has no command line: Qt sees the program's name alone
     QApplication application(argumentCount, arguments);
+    QApplication::setStyle(new VisibleBoxes);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/art/ondara.png")));
     DesktopHost desktop;
     const HostInForce inForce(desktop);

@@ -1,0 +1,27 @@
+// The outlines of visible_boxes.h.
+#include "controls/visible_boxes.h"
+
+#include <QStyleOptionButton>
+
+namespace {
+
+bool isDark(const QPalette& palette) {
+    return palette.color(QPalette::Base).lightness() < palette.color(QPalette::Text).lightness();
+}
+
+}  // namespace
+
+// The style darkens whatever it takes for the window's colour, so the ink makes an outline that is
+// quieter than the texts.
+void VisibleBoxes::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                 QPainter* painter, const QWidget* widget) const {
+    const bool isBox = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
+    const auto* box = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (!isBox || !box || !isDark(box->palette)) {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        return;
+    }
+    QStyleOptionButton outlined = *box;
+    outlined.palette.setBrush(QPalette::Window, box->palette.text());
+    QProxyStyle::drawPrimitive(element, &outlined, painter, widget);
+}

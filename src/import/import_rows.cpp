@@ -50,18 +50,14 @@ bool isAnySelected(const std::vector<ListEntry>& names) {
 
 void readImportRows(Recordset& oldPeople, const std::vector<ListEntry>& names,
                     const std::function<void(ListRow)>& take) {
-    if (!oldPeople.BOF())
-        oldPeople.MoveFirst();
-    Long oldBookmark = oldPeople.Bookmark();
+    oldPeople.MoveFirst();
     std::size_t last = 0;
     for (std::size_t i = 0; i < names.size(); ++i) {
         if (!names[i].selected)
             continue;
-        oldPeople.setBookmark(oldBookmark);
         oldPeople.Move(static_cast<Long>(i - last));
         take(
             importRow(oldPeople.Fields(u"Name").toText(), oldPeople.Fields(u"birthdate").toDate()));
-        oldBookmark = oldPeople.Bookmark();
         last = i;
     }
 }

@@ -5,9 +5,12 @@
 #include <QCoreApplication>
 #include <QTimer>
 
+#include "controls/file_dialog.h"
 #include "import/import_driver.h"
 #include "support/errors.h"
+#include "support/files.h"
 #include "support/form_rules.h"
+#include "support/jet_builder.h"
 
 namespace {
 
@@ -102,6 +105,7 @@ TEST_F(Import, AsksForTheOldDatabaseByItsName) {
     EXPECT_EQ(asked.filters, (std::vector<FileFilter>{{QStringLiteral("Ondara 1.0 database"),
                                                        QStringLiteral("names.mdb")}}));
     EXPECT_EQ(asked.owner, &wizard());
+    EXPECT_TRUE(wizard().findChild<FileDialog*>(QStringLiteral("cdgImport")));
 }
 
 TEST_F(Import, ListsTheNamesOfTheOldDatabaseAsTheyStand) {
@@ -112,6 +116,25 @@ TEST_F(Import, ListsTheNamesOfTheOldDatabaseAsTheyStand) {
     EXPECT_EQ(selected(), std::vector({false, false, false}));
     EXPECT_TRUE(isEnabled("cmdNext"));
     EXPECT_EQ(wizard().ImportStep, 1);
+}
+
+TEST_F(Import, ImportsFromAJetFileAndLeavesItAsItIs) {
+    const BuiltTable people{.name = QStringLiteral("Data"),
+                            .columns = {{QStringLiteral("ID"), JetType::Int32},
+                                        {QStringLiteral("Name"), JetType::Text, 50},
+                                        {QStringLiteral("birthdate"), JetType::Date}},
+                            .rows = {{{7, QStringLiteral("Dupr\u00E9, \u00C9lo\u00EFse"), 26592.5}},
+                                     {{8, QStringLiteral("John Doe"), -1.25}}}};
+    const QByteArray old = builtJet(4, {people}).bytes;
+    makeFile(old_, old);
+    openRows({0, 1});
+    EXPECT_EQ(textsOf(1).join(u'|'), u"Dupr\u00E9|\u00C9lo\u00EFse|20 Oct 1972||?|0");
+    EXPECT_EQ(textsOf(2).join(u'|'), u"Doe|John|29 Dec 1899||?|0");
+    press("cmdAssign");
+    press("cmdNext");
+    press("cmdNext");
+    EXPECT_EQ(stored("SELECT Birthdate FROM Data WHERE FName = 'John'"), Value(-1.0));
+    EXPECT_EQ(fileBytes(old_), old);
 }
 
 TEST_F(Import, TakesTheOldDatabaseWhateverTheCaseOfItsName) {

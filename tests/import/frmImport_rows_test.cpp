@@ -37,6 +37,11 @@ TEST_F(ImportedRows, HideTheirNumbers) {
         EXPECT_TRUE(rows().isColumnHidden(column)) << column;
 }
 
+TEST_F(ImportedRows, HaveRoomForTheirBirthdates) {
+    openRows();
+    EXPECT_GT(rows().columnWidth(2), rows().fontMetrics().horizontalAdvance(textsOf(1)[2]));
+}
+
 TEST_F(ImportedRows, AreShownInTheInputsWhenTheyAreClicked) {
     openRows();
     EXPECT_EQ(wizard().ImportRow, 0);

@@ -11,8 +11,8 @@
 class QWidget;
 
 // What was answered last stays, and is proposed when the dialog is shown again: a dialog that the
-// user cancels changes nothing. At first no filter has been chosen and there is no name but one that
-// was set. A file of the name need not exist.
+// user cancels changes nothing. At first no filter has been chosen and there is no name but one
+// that was set. A file of the name need not exist.
 class FileDialog final : public QObject {
     Q_OBJECT
 

@@ -19,11 +19,11 @@ struct FileFilter {
 struct FileQuestion {
     FilePurpose purpose = FilePurpose::Open;
     QString title = {};
-    QString folder = {};                   // that the user begins in
-    QString fileName = {};                 // that is proposed
+    QString folder = {};    // that the user begins in
+    QString fileName = {};  // that is proposed
     std::vector<FileFilter> filters = {};
-    int filterIndex = 0;                   // of the one that is proposed, from 1; 0 is the first
-    QString defaultExtension = {};         // of a name that has none, without its full stop
+    int filterIndex = 0;            // of the one that is proposed, from 1; 0 is the first
+    QString defaultExtension = {};  // of a name that has none, without its full stop
     bool asksBeforeOverwriting = false;
     QObject* owner = nullptr;  // the window that waits for the answer
 };

@@ -105,6 +105,23 @@ TEST_F(ImportedRows, DoNotPassWhileOneIsUnassigned) {
     EXPECT_EQ(lastNames().join(u'|'), u"Changed|Roe|Smith");
 }
 
+TEST_F(ImportedRows, DoNotPassWhereverTheOneIsThatIsUnassigned) {
+    openRows();
+    for (int unassigned = 1; unassigned <= 3; ++unassigned) {
+        for (int row = 1; row <= 3; ++row) {
+            if (row == unassigned)
+                continue;
+            clickRow(row);
+            press("cmdUpdate");
+        }
+        host_.expectMessage(importing::notEveryoneAssigned());
+        press("cmdNext");
+        EXPECT_EQ(wizard().ImportStep, 4) << unassigned;
+        press("cmdBack");
+        press("cmdNext");
+    }
+}
+
 TEST_F(ImportedRows, AreListedAnewByTheWayBack) {
     openRows();
     clickRow(1);

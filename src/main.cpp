@@ -14,7 +14,9 @@
 int main(int, char** arguments) {
     int argumentCount = 1;  // the program has no command line: Qt sees the program's name alone
     QApplication application(argumentCount, arguments);
-    QApplication::setStyle(new VisibleBoxes);
+    auto* style = new VisibleBoxes;
+    style->setParent(&application);
+    QApplication::setStyle(style);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/art/ondara.png")));
     DesktopHost desktop;
     const HostInForce inForce(desktop);

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "records/column_drag.h"
-#include "runtime/errors.h"
 #include "runtime/format.h"
 #include "runtime/numbers.h"
 #include "store/recordset.h"

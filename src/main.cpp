@@ -6,6 +6,7 @@
 #include "controls/desktop_host.h"
 #include "controls/form.h"
 #include "controls/visible_boxes.h"
+#include "runtime/app.h"
 #include "runtime/event.h"
 #include "shell/default_instance.h"
 #include "shell/frmMain.h"
@@ -14,6 +15,7 @@
 int main(int, char** arguments) {
     int argumentCount = 1;  // the program has no command line: Qt sees the program's name alone
     QApplication application(argumentCount, arguments);
+    QApplication::setApplicationName(App::Title());  // that of a box without a title of its own
     auto* style = new VisibleBoxes;
     style->setParent(&application);
     QApplication::setStyle(style);

@@ -1,9 +1,13 @@
-// The outlines of visible_boxes.h.
+// The outlines and the room of visible_boxes.h.
 #include "controls/visible_boxes.h"
 
 #include <QStyleOptionButton>
+#include <QStyleOptionViewItem>
+#include <algorithm>
 
 namespace {
+
+constexpr int kBetweenBoxes = 4;  // pixels
 
 bool isDark(const QPalette& palette) {
     return palette.color(QPalette::Base).lightness() < palette.color(QPalette::Text).lightness();
@@ -24,4 +28,15 @@ void VisibleBoxes::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     QStyleOptionButton outlined = *box;
     outlined.palette.setBrush(QPalette::Window, box->palette.text());
     QProxyStyle::drawPrimitive(element, &outlined, painter, widget);
+}
+
+QSize VisibleBoxes::sizeFromContents(ContentsType type, const QStyleOption* option,
+                                     const QSize& contents, const QWidget* widget) const {
+    QSize room = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+    if (item && item->features.testFlag(QStyleOptionViewItem::HasCheckIndicator)) {
+        const int box = pixelMetric(PM_IndicatorHeight, option, widget);
+        room.setHeight(std::max(room.height(), box + kBetweenBoxes));
+    }
+    return room;
 }

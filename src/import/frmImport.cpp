@@ -1,6 +1,7 @@
 // The event routines of the import wizard.
 #include "import/frmImport.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 #include "controls/file_dialog.h"
@@ -138,7 +139,7 @@ void frmImport::openOldDatabase(const QString& path) {
         host().showMessage({.text = importing::noSuchFile(), .owner = this});
         return;
     }
-    ui_->txtPath->setText(path);
+    ui_->txtPath->setText(QDir::toNativeSeparators(path));
     oldDatabase_ = openOldPeople(path);
     OldPeople_ = Recordset(*oldDatabase_, statements::wholeTable());
     readOldNames(*OldPeople_, [this](const QString& name) { ui_->lstImport->AddItem(name); });

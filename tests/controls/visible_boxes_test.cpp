@@ -1,4 +1,4 @@
-// The outlines of boxes on light and on dark desktops.
+// The outlines of boxes on light and on dark desktops, and the room between them.
 #include "controls/visible_boxes.h"
 
 #include <gtest/gtest.h>
@@ -83,6 +83,19 @@ TEST_F(VisibleBoxesTest, OutlineTheBoxOfAListsEntryOnADarkDesktop) {
     option.features = QStyleOptionViewItem::HasCheckIndicator;
     expectOutline(list,
                   style_.subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, &list));
+}
+
+TEST_F(VisibleBoxesTest, KeepTheBoxesOfAListApart) {
+    CheckListBox list;
+    list.setStyle(&style_);
+    QFont small = list.font();
+    small.setPixelSize(8);
+    list.setFont(small);
+    list.fill({{QStringLiteral("Adler")}, {QStringLiteral("Curie")}});
+    const QAbstractItemModel& entries = *list.QListView::model();
+    const int row =
+        list.visualRect(entries.index(1, 0)).top() - list.visualRect(entries.index(0, 0)).top();
+    EXPECT_GE(row, style_.pixelMetric(QStyle::PM_IndicatorHeight, nullptr, &list) + 2);
 }
 
 TEST_F(VisibleBoxesTest, LeaveALightDesktopAsItIs) {

@@ -10,7 +10,7 @@ from program import Program
 SKIPPED = 77
 
 MAIN_WINDOW = 'Ondara 2.1'
-ERROR_BOX = 'Ondara'
+ERROR_BOX = 'Ondara'  # the run-time's, and each that has no title
 
 # Parts of the main window, as geometries, and a place in its list where a name stands.
 LIST = '220x120+16+110'

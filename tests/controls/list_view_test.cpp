@@ -162,6 +162,14 @@ TEST_F(ListViewTest, HasNoBoxesWhereNobodyAsksForThem) {
     EXPECT_EQ(checked(), std::vector({false, false, false}));
 }
 
+TEST_F(ListViewTest, SelectsTheRowOfTheFocusByTheSpaceBarWhereThereAreNoBoxes) {
+    const QModelIndex row = view_.model()->index(2, 0);
+    view_.selectionModel()->setCurrentIndex(row, QItemSelectionModel::NoUpdate);
+    ASSERT_FALSE(view_.selectionModel()->isSelected(row));
+    pressKey(view_, Qt::Key_Space);
+    EXPECT_TRUE(view_.selectionModel()->isSelected(row));
+}
+
 TEST_F(ListViewTest, HidesAColumnOfNoWidth) {
     view_.setColumns(
         {{.header = QStringLiteral("Name")}, {.header = QStringLiteral("ID"), .width = 0}});

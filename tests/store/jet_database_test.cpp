@@ -67,6 +67,28 @@ TEST_P(JetDatabase, GivesItsRowsInTheirOrder) {
     EXPECT_EQ(people.Fields(u"Notes \"by\" others"), Value(QString()));
 }
 
+TEST_P(JetDatabase, KeepsWholeNumbersWhole) {
+    const std::vector<Value> numbers{Value(200), Value(-300), Value(70'000), Value(true)};
+    makeFile(path_, builtJet(GetParam(), {{.name = QStringLiteral("Numbers"),
+                                           .columns = {{QStringLiteral("Small"), JetType::Byte},
+                                                       {QStringLiteral("Middle"), JetType::Int16},
+                                                       {QStringLiteral("Large"), JetType::Int32},
+                                                       {QStringLiteral("Truth"), JetType::Boolean}},
+                                           .rows = {{numbers}}}})
+                        .bytes);
+    Connection jet = connection();
+    const Recordset read(jet, QStringLiteral("select * from Numbers"));
+    EXPECT_EQ((std::vector{read.Fields(u"Small"), read.Fields(u"Middle"), read.Fields(u"Large"),
+                           read.Fields(u"Truth")}),
+              numbers);
+}
+
+TEST_P(JetDatabase, ComparesTextsWithoutRegardToCase) {
+    Connection jet = connection();
+    const Recordset people(jet, QStringLiteral("select * from Data where Name = 'dOE, jOHN'"));
+    EXPECT_EQ(people.RecordCount(), 1);
+}
+
 TEST_P(JetDatabase, CannotBeChanged) {
     const QByteArray before = fileBytes(path_);
     Connection jet = connection();

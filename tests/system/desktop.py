@@ -93,10 +93,9 @@ class Desktop:
             if owner.poll() is not None:
                 raise AssertionError(f'The program ended with code {owner.returncode} and did not '
                                      f'show "{title}"')
-            return [window for name, window in self.windows() if name == title]
-        found = self.until(look, f'a window called "{title}"')
-        self.until(lambda: self.has_focus(found[-1]), f'"{title}" to take the keys')
-        return found[-1]
+            named = [window for name, window in self.windows() if name == title]
+            return named and self.has_focus(named[-1]) and named[-1]
+        return self.until(look, f'a window called "{title}" to take the keys')
 
     def raise_window(self, window):
         self._do('xdotool', 'windowactivate', window)

@@ -39,8 +39,8 @@ class Program:
         base = Path(self._folder.name)
         base.chmod(0o755)
         self.home = base / 'home'
-        self.session = base / 'session'
-        for folder in (self.home, self.session):
+        self.runtime = base / 'runtime'
+        for folder in (self.home, self.runtime):
             folder.mkdir(mode=0o700)
         self.folder = self.lay_out(base / 'Ondara')
         self.file = self.folder / 'ondara'
@@ -67,8 +67,8 @@ class Program:
         """Nothing of the tester's desktop; only what the sanitizers are told."""
         kept = {name: value for name, value in os.environ.items() if name.endswith('SAN_OPTIONS')}
         return kept | {'DISPLAY': self._display, 'HOME': str(self.home), 'PATH': os.environ['PATH'],
-                       'LC_ALL': 'C.UTF-8', 'TMPDIR': str(self.session),
-                       'XDG_RUNTIME_DIR': str(self.session)}
+                       'LC_ALL': 'C.UTF-8', 'TMPDIR': str(self.runtime),
+                       'XDG_RUNTIME_DIR': str(self.runtime)}
 
     def start(self, *options, file=None, before=(), cwd=None):
         """Starts the program; `before` is a command that starts it in its turn."""
@@ -82,7 +82,7 @@ class Program:
         if os.geteuid() != 0:
             return self.start()
         require(AS_NOBODY, 'another user')
-        for folder in (self.home, self.session):
+        for folder in (self.home, self.runtime):
             shutil.chown(folder, NOBODY, NOBODY)
         return self.start(before=AS_NOBODY)
 

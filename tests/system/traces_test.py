@@ -1,4 +1,4 @@
-"""What a session reads besides its databases, which is nothing, and what it leaves behind."""
+"""What the program reads besides its databases, which is nothing, and what it leaves behind."""
 
 from program import contents
 from system_test_case import ABOVE_STATUS_BAR, SystemTestCase, main
@@ -12,9 +12,9 @@ def is_of_font_cache(path):
     return path in FONT_CACHE or path.startswith(f'{FONT_CACHE[-1]}/')
 
 
-class Session(SystemTestCase):
-    def session(self):
-        """Everything that the main window can do so far, once."""
+class Use(SystemTestCase):
+    def use(self):
+        """What the main window does by itself, once."""
         run = self.program.start()
         window = self.main_window(run)
         self.expect_chart(window)
@@ -26,7 +26,7 @@ class Session(SystemTestCase):
     def test_leaves_nothing_behind(self):
         everywhere = self.program.folder.parent
         before = contents(everywhere)
-        self.session()
+        self.use()
         after = contents(everywhere)
         self.assertEqual(
             {path: state for path, state in after.items() if not is_of_font_cache(path)}, before)

@@ -113,6 +113,16 @@ TEST_P(JetDatabase, RefusesADamagedFile) {
     EXPECT_TRUE(descriptionOf([&] { connection(); }).endsWith(QDir::toNativeSeparators(path_)));
 }
 
+TEST_P(JetDatabase, CallsItsTablesAsTheFileDoes) {
+    const QString name = QStringLiteral("People \"we\" know");
+    makeFile(path_, builtJet(GetParam(), {{.name = name,
+                                           .columns = {{QStringLiteral("Name"), JetType::Text, 50}},
+                                           .rows = {}}})
+                        .bytes);
+    Connection jet = connection();
+    EXPECT_TRUE(jet.database().tableExists(name.toStdString()));
+}
+
 TEST(JetDatabaseOfPictures, HasNoTableOfThem) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("Pictures.mdb"));

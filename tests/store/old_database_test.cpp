@@ -73,6 +73,7 @@ TEST_F(OldDatabaseTest, RefusesAFieldOfAnotherKind) {
     EXPECT_EQ(errorOfRows({QStringLiteral("NameID"), OldField::Truth}), ofAnotherType("NameID"));
     EXPECT_EQ(errorOfRows({QStringLiteral("Birthdate"), OldField::Number}),
               ofAnotherType("Birthdate"));
+    EXPECT_EQ(errorOfRows({QStringLiteral("NAME"), OldField::Date}), ofAnotherType("NAME"));
 }
 
 TEST_F(OldDatabaseTest, RefusesAFieldOrATableThatIsMissing) {

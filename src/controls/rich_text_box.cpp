@@ -7,6 +7,7 @@
 #include <QTextDocument>
 #include <algorithm>
 
+#include "controls/font_size.h"
 #include "controls/paper.h"
 #include "controls/picture_object.h"
 #include "controls/rich_text_document.h"
@@ -132,7 +133,7 @@ void RichTextBox::setSelBold(bool bold) {
 double RichTextBox::SelFontSize() const {
     const QTextCharFormat format = selectedFormat();
     return format.hasProperty(QTextFormat::FontPointSize) ? format.fontPointSize()
-                                                          : font().pointSizeF();
+                                                          : pointsOf(font());
 }
 
 void RichTextBox::setSelFontSize(double points) {

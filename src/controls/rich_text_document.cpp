@@ -8,6 +8,7 @@
 #include <QTextDocument>
 #include <QUrl>
 
+#include "controls/font_size.h"
 #include "controls/text_colours.h"
 #include "controls/twips.h"
 
@@ -76,7 +77,7 @@ RichFormat richFormat(const QTextCharFormat& format, const QFont& plain) {
     RichFormat rich{.font = format.fontFamilies().toStringList().value(0, plain.family()),
                     .points = format.hasProperty(QTextFormat::FontPointSize)
                                   ? format.fontPointSize()
-                                  : plain.pointSizeF(),
+                                  : pointsOf(plain),
                     .isBold = format.fontWeight() >= QFont::Bold,
                     .isItalic = format.fontItalic(),
                     .isUnderlined = format.fontUnderline(),

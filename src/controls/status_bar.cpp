@@ -5,6 +5,7 @@
 #include <chrono>
 
 #include "controls/elided_label.h"
+#include "controls/font_size.h"
 #include "runtime/host.h"
 
 namespace {
@@ -15,7 +16,7 @@ constexpr int kSpaceBeforePanel = 12;
 constexpr double kFontScale = 0.9;  // the values of a day fit beside the clock
 
 QFont smaller(QFont font) {
-    font.setPointSizeF(font.pointSizeF() * kFontScale);
+    font.setPointSizeF(pointsOf(font) * kFontScale);
     return font;
 }
 

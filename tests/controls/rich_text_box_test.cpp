@@ -12,6 +12,7 @@
 #include <QTextCursor>
 #include <limits>
 
+#include "controls/font_size.h"
 #include "controls/picture_object.h"
 #include "controls/rich_text_document.h"
 #include "controls/text_colours.h"
@@ -191,7 +192,7 @@ TEST_F(RichTextBoxTest, KeepsTheOtherStylesWhenOneIsSet) {
 
 TEST_F(RichTextBoxTest, HasItsOwnFontSizeWhereNoneIsSet) {
     select(0, 1);
-    EXPECT_EQ(box_.SelFontSize(), box_.font().pointSizeF());
+    EXPECT_EQ(box_.SelFontSize(), pointsOf(box_.font()));
     box_.setFont(QFont(QStringLiteral("DejaVu Sans"), 23));
     EXPECT_EQ(box_.SelFontSize(), 23);
     EXPECT_EQ(box_.document()->defaultFont().pointSizeF(), 23);

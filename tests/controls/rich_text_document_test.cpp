@@ -9,6 +9,7 @@
 #include <QTextBlock>
 #include <QTextDocument>
 
+#include "controls/font_size.h"
 #include "controls/text_colours.h"
 #include "rtf/every_format.h"
 #include "rtf/rich_text_marks.h"
@@ -73,9 +74,11 @@ TEST_F(RichTextDocument, ShowsATextInPlaceOfTheLast) {
 TEST_F(RichTextDocument, IsInTheDocumentsFontWhereNoOtherIsAskedFor) {
     const RichText again = shownAgain({{.runs = {{QStringLiteral("one"), {}}}}});
     EXPECT_EQ(again.front().runs.front().format.font, document_.defaultFont().family());
+    QFont large = document_.defaultFont();
+    large.setPixelSize(40);
+    document_.setDefaultFont(large);
     document_.setPlainText(QStringLiteral("one"));
-    EXPECT_EQ(richTextOf(document_).front().runs.front().format.points,
-              document_.defaultFont().pointSizeF());
+    EXPECT_EQ(richTextOf(document_).front().runs.front().format.points, pointsOf(large));
 }
 
 TEST_F(RichTextDocument, ShowsPicturesInTheSizeTheyAreToHaveOrTheirOwn) {

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QFontInfo>
 #include <QLabel>
 
 #include "support/recording_host.h"
@@ -42,4 +44,16 @@ TEST(StatusBar, ShowsTheTimeAndTheDateOfTheSystem) {
     bar.refreshClock();
     EXPECT_EQ(time.text(), QStringLiteral("06:00"));
     EXPECT_EQ(date.text(), QStringLiteral("15/03/2000"));
+}
+
+TEST(StatusBar, HasSmallerLettersThanTheDesktopInWhicheverUnitItsFontIsSet) {
+    RecordingHost host;
+    const QFont desktop = QApplication::font();
+    QFont inPixels = desktop;
+    inPixels.setPixelSize(20);
+    QApplication::setFont(inPixels);
+    const StatusBar bar;
+    QApplication::setFont(desktop);
+    EXPECT_LT(QFontInfo(bar.font()).pixelSize(), 20);
+    EXPECT_GT(QFontInfo(bar.font()).pixelSize(), 15);
 }

@@ -55,10 +55,8 @@ void ListViewModel::setSorting(const ListSorting& sorting) {
         sortRows();
 }
 
-// What a view remembers of a row, its selection among it, stays with the row.
-void ListViewModel::sortRows() {
+std::vector<int> ListViewModel::putInOrder() {
     makeAllRows();
-    Q_EMIT layoutAboutToBeChanged();
     Rows rows;
     rows.reserve(rows_.size());
     std::vector<int> newIndexes(rows_.size());
@@ -67,6 +65,13 @@ void ListViewModel::sortRows() {
         rows.push_back(std::move(rows_[old]));
     }
     rows_ = std::move(rows);
+    return newIndexes;
+}
+
+// What a view remembers of a row, its selection among it, stays with the row.
+void ListViewModel::sortRows() {
+    Q_EMIT layoutAboutToBeChanged();
+    const std::vector<int> newIndexes = putInOrder();
     for (const QModelIndex& kept : persistentIndexList()) {
         const int row = newIndexes[static_cast<std::size_t>(kept.row())];
         changePersistentIndex(kept, index(row, kept.column()));
@@ -86,10 +91,8 @@ void ListViewModel::replaceRows(Rows rows, RowMaker makeRow) {
     beginResetModel();
     rows_ = std::move(rows);
     makeRow_ = std::move(makeRow);
-    if (sorting_.isOn) {
-        makeAllRows();
-        std::stable_sort(rows_.begin(), rows_.end(), RowOrder(sorting_));
-    }
+    if (sorting_.isOn)
+        putInOrder();
     endResetModel();
 }
 

@@ -79,6 +79,10 @@ class ListViewModel final : public QAbstractTableModel {
     using Rows = std::vector<std::optional<ListRow>>;  // none: not looked at yet
 
     void replaceRows(Rows rows, RowMaker makeRow);
+
+    // Puts the rows in order, and answers the new index of each old one.
+    std::vector<int> putInOrder();
+
     void sortRows();
     const ListRow& rowAt(std::size_t index) const;
     void makeAllRows();

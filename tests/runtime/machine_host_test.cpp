@@ -200,14 +200,14 @@ class RegistryOfWindows : public testing::Test {
 TEST_F(RegistryOfWindows, GivesATextWithItsZero) {
     write(REG_SZ, QByteArray("C:\\tool.exe", 12));
     ASSERT_TRUE(read());
-    EXPECT_EQ(read()->type, 1U);
+    EXPECT_EQ(read()->type, RegistryType::Text);
     EXPECT_EQ(read()->data, QByteArray("C:\\tool.exe", 12));
 }
 
 TEST_F(RegistryOfWindows, GivesANumberFromItsLowByte) {
     write(REG_DWORD, QByteArray("\x0a\0\0\x80", 4));
     ASSERT_TRUE(read());
-    EXPECT_EQ(read()->type, 4U);
+    EXPECT_EQ(read()->type, RegistryType::Number);
     EXPECT_EQ(read()->data, QByteArray("\x0a\0\0\x80", 4));
 }
 

@@ -67,6 +67,7 @@ TEST_F(ComparedPeople, HaveAnEmptyFirstNameWhereThereIsNone) {
 
 TEST_F(ComparedPeople, RaiseWhereThereIsNobodyOrNoBirthDate) {
     EXPECT_EQ(errorOf([this] { read(4711); }), 3021);
+    { const Connection closed = std::move(connection_); }
     directory_.dropConstraints();
     connection_ = openPersonDatabase();
     const Long undated = addPerson(directory_.people(), {.name = kSmith, .birthdate = Value()});

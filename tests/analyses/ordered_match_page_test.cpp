@@ -249,7 +249,8 @@ TEST_F(MatchPage, LeavesTheLastResultWhereTheDatabaseCannotBeOpened) {
     search();
     Connection connection = openPersonDatabase();
     Recordset everybody(connection, statements::allPeopleWithNotes());
-    QFile::remove(directory_.people());
+    { const Connection closed = std::move(connection); }
+    ASSERT_TRUE(QFile::remove(directory_.people()));
     EXPECT_EQ(errorOf([&] { page_.search(everybody, kSmith, categories_); }), 53);
     EXPECT_EQ(names().size(), 3);
     EXPECT_TRUE(grid().Redraw());

@@ -3,6 +3,7 @@
 
 #include <QCheckBox>
 #include <QCoreApplication>
+#include <QDir>
 #include <QTimer>
 
 #include "controls/file_dialog.h"
@@ -111,7 +112,7 @@ TEST_F(Import, AsksForTheOldDatabaseByItsName) {
 TEST_F(Import, ListsTheNamesOfTheOldDatabaseAsTheyStand) {
     open();
     browse(old_);
-    EXPECT_EQ(in<TextBox>("txtPath").text(), old_);
+    EXPECT_EQ(in<TextBox>("txtPath").text(), QDir::toNativeSeparators(old_));
     EXPECT_EQ(listedNames().join(u'|'), u"Doe, John|Jane Roe|Smith");
     EXPECT_EQ(selected(), std::vector({false, false, false}));
     EXPECT_TRUE(isEnabled("cmdNext"));

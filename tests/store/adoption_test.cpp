@@ -93,7 +93,9 @@ TEST_F(AdoptionTest, FindsTheFileWhateverItsCase) {
     QFile::remove(directory_.people());
     makeFile(path("ONDARA2.MDB"), oldDatabase());
     ASSERT_TRUE(adoptPeople());
-    EXPECT_EQ(files().join(u'/').toLower(), u"interp.mdb/ondara2 (jet).mdb/ondara2.mdb");
+    QStringList inSmallLetters = files().join(u'/').toLower().split(u'/');
+    inSmallLetters.sort();
+    EXPECT_EQ(inSmallLetters, names({"interp.mdb", "ondara2 (jet).mdb", "ondara2.mdb"}));
     EXPECT_EQ(countOfPeople(), 2);
 }
 

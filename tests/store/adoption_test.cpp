@@ -92,10 +92,12 @@ TEST_F(AdoptionTest, LeavesEverythingElseAlone) {
 TEST_F(AdoptionTest, FindsTheFileWhateverItsCase) {
     QFile::remove(directory_.people());
     makeFile(path("ONDARA2.MDB"), oldDatabase());
+    const bool isFoundByAnyCase = QFile::exists(directory_.people());
     ASSERT_TRUE(adoptPeople());
-    QStringList inSmallLetters = files().join(u'/').toLower().split(u'/');
-    inSmallLetters.sort();
-    EXPECT_EQ(inSmallLetters, names({"interp.mdb", "ondara2 (jet).mdb", "ondara2.mdb"}));
+    QStringList expected = names({"Interp.mdb", "ONDARA2.MDB",
+                                  isFoundByAnyCase ? "Ondara2 (Jet).mdb" : "ONDARA2 (Jet).MDB"});
+    expected.sort();
+    EXPECT_EQ(files(), expected);
     EXPECT_EQ(countOfPeople(), 2);
 }
 
